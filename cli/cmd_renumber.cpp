@@ -1,0 +1,7 @@
+#include "commands.h"
+
+namespace lathwick::cli {
+
+int cmdRenumber(const Args&) { return notAvailable("renumber"); }
+
+}  // namespace lathwick::cli

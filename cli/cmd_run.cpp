@@ -1,0 +1,7 @@
+#include "commands.h"
+
+namespace lathwick::cli {
+
+int cmdRun(const Args&) { return notAvailable("run"); }
+
+}  // namespace lathwick::cli

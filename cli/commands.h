@@ -1,0 +1,26 @@
+#pragma once
+// The subcommands of lathwick-cli. Each takes the arguments after its name and returns the
+// exit status; usage errors are thrown as UsageError and reported by main.
+#include <string>
+#include <vector>
+
+namespace lathwick::cli {
+
+using Args = std::vector<std::string>;
+
+int cmdColorize(const Args& args);
+int cmdReplace(const Args& args);
+int cmdHighlight(const Args& args);
+int cmdOperate(const Args& args);
+int cmdRenumber(const Args& args);
+int cmdAddSpaces(const Args& args);
+int cmdRemoveSpaces(const Args& args);
+int cmdJunkFilter(const Args& args);
+int cmdScheme(const Args& args);
+int cmdRtfText(const Args& args);
+int cmdRun(const Args& args);
+
+// For subcommands whose engine is not built yet: says so on stderr and exits 1.
+int notAvailable(const char* name);
+
+}  // namespace lathwick::cli

@@ -1,0 +1,18 @@
+#pragma once
+// The operating-system seam of the core: where the executable lives, whether a file is there,
+// reading a file whole. Paths may use "\" or "/"; they are made native before the system sees them.
+#include <optional>
+#include <string>
+
+namespace lathwick {
+
+std::string nativePath(std::string_view path);   // every "\" becomes "/"
+std::string executableFolder();                    // without a trailing separator
+bool isRegularFile(const std::string& path);       // follows links; folders are not files
+bool isDirectory(const std::string& path);
+std::optional<std::string> readWholeFile(const std::string& path);
+bool removeFile(const std::string& path);          // true when it is gone afterwards
+bool copyFile(const std::string& from, const std::string& to);  // atomic at the destination
+long long fileSize(const std::string& path);       // -1 when it cannot be read
+
+}  // namespace lathwick
