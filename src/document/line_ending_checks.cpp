@@ -1,0 +1,53 @@
+#include "document/line_ending_checks.h"
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/errors.h"
+#include "platform/file_system.h"
+
+namespace lathwick {
+
+namespace {
+struct Counts {
+  long lf = 0;
+  bool anyCr = false;
+  bool anyCrLf = false;
+};
+
+Counts countBreaks(const std::string& path) {
+  std::FILE* f = std::fopen(nativePath(path).c_str(), "rb");
+  if (!f) throw makeError(err::kFileNotFound);
+  Counts c;
+  std::array<char, 1 << 16> buf;
+  char previous = 0;
+  size_t n;
+  while ((n = std::fread(buf.data(), 1, buf.size(), f)) > 0) {
+    for (size_t i = 0; i < n; ++i) {
+      const char ch = buf[i];
+      if (ch == '\n') {
+        ++c.lf;
+        if (previous == '\r') c.anyCrLf = true;
+      } else if (ch == '\r') {
+        c.anyCr = true;
+      }
+      previous = ch;
+    }
+  }
+  std::fclose(f);
+  return c;
+}
+}  // namespace
+
+long LineCountCheck(const std::string& path) {
+  const Counts c = countBreaks(path);
+  return (c.lf > 0 && !c.anyCr) ? -1 : c.lf;
+}
+
+bool FormatCheck(const std::string& path) {
+  const Counts c = countBreaks(path);
+  return c.lf == 0 || c.anyCrLf;
+}
+
+}  // namespace lathwick
