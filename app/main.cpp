@@ -1,29 +1,41 @@
 // lathwick: the G-code editor.
 #include <QApplication>
-#include <QMainWindow>
-#include <QMdiArea>
 #include <QTimer>
 
+#include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
 
-  // "--quit-after-start" lets tests and scripts check that start-up completes.
+  // "--quit-after-start" lets tests and scripts check that start-up completes;
+  // "--screenshot FILE" saves a picture of the main window once it is up, then quits.
   QStringList args = QApplication::arguments();
   const bool quitAfterStart = args.removeAll(QStringLiteral("--quit-after-start")) > 0;
+  QString screenshot;
+  if (const auto at = args.indexOf(QStringLiteral("--screenshot")); at > 0 && at + 1 < args.size()) {
+    screenshot = args.at(at + 1);
+    args.remove(at, 2);
+  }
 
-  lathwick::gui::QtStartupHost host(args, [](const lathwick::AppValues& values) -> QWidget* {
-    auto* window = new QMainWindow;
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowTitle(QString::fromLatin1(values.VersionText.c_str()));
-    window->setCentralWidget(new QMdiArea(window));
-    window->resize(1000, 700);
-    return window;
+  lathwick::gui::MDIForm1* frame = nullptr;
+  lathwick::gui::QtStartupHost host(args, [&frame](const lathwick::AppValues& values, lathwick::SettingsStore& settings) {
+    frame = new lathwick::gui::MDIForm1(values, settings);
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->load();
+    return frame;
   });
   const auto result = lathwick::runStartup(host);
   if (result.outcome == lathwick::StartupOutcome::EndedMissingDataFile) return 1;
+  if (frame) frame->openStartupFile();
+  if (!screenshot.isEmpty() && frame) {
+    QTimer::singleShot(1500, frame, [frame, screenshot] {
+      frame->grab().save(screenshot);
+      frame->close();
+      QApplication::quit();
+    });
+  }
   if (quitAfterStart) QTimer::singleShot(0, &app, &QApplication::quit);
   return app.exec();
 }

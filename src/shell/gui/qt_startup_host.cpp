@@ -44,7 +44,7 @@ void QtStartupHost::showMissingDataFile(const std::string& message) {
 }
 
 void QtStartupHost::loadMainWindow(const AppValues& values) {
-  mainWindow_ = makeMainWindow_(values);
+  mainWindow_ = makeMainWindow_(values, settings_);
   splash_.reset();
   if (mainWindow_) mainWindow_->show();
 }

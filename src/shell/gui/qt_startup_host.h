@@ -14,7 +14,7 @@ namespace lathwick::gui {
 
 class QtStartupHost : public StartupHost {
  public:
-  using MainWindowFactory = std::function<QWidget*(const AppValues&)>;
+  using MainWindowFactory = std::function<QWidget*(const AppValues&, SettingsStore&)>;
   QtStartupHost(QStringList arguments, MainWindowFactory makeMainWindow);
   ~QtStartupHost() override;
 

@@ -1,0 +1,93 @@
+// The Edit menu of a document window: clipboard, line and case commands, and undo.
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "document/case_change.h"
+#include "document/document_table.h"
+#include "document/gui/frm_editor.h"
+#include "platform/bytes.h"
+#include "platform/errors.h"
+#include "shell/gui/mdi_form.h"
+
+namespace lathwick::gui {
+namespace {
+QClipboard& clipboard() { return *QGuiApplication::clipboard(); }
+}  // namespace
+
+void frmEditor::Undo() {
+  if (!fileUndoable_) {
+    text_->undo();
+    En_Dis_able();
+    return;
+  }
+  // The undo file holds the document as it was before its last whole-text transformation.
+  const bool changed = record().changed;
+  try {
+    text_->loadFile(frame_.values().UndoFile, TextKind::Rich);
+  } catch (const AppError& e) {
+    frame_.dialogs().message(e.description(), frame_.windowTitle().toStdString(), Buttons::Ok, Icon::Information);
+  }
+  record().changed = changed;
+  fileUndoable_ = false;
+  En_Dis_able();
+}
+
+void frmEditor::Cut() { text_->cut(); }
+void frmEditor::Copy() { text_->copy(); }
+void frmEditor::Paste() { text_->paste(); }
+void frmEditor::deleteKey() { text_->deleteForward(); }
+
+void frmEditor::cutLine() {
+  const int line = currentLine();
+  const int first = text_->lineIndex(line);
+  const int length = text_->lineLength(line);
+  text_->setSelection(first, length);
+  cutLine_ = text_->selText();
+  // The line's text and its break go together: CR LF, or a lone CR or LF.
+  const std::string all = text_->text();
+  int breakLength = 0;
+  const auto end = static_cast<std::size_t>(first + length);
+  if (end < all.size()) breakLength = (all[end] == '\r' && end + 1 < all.size() && all[end + 1] == '\n') ? 2 : 1;
+  text_->setSelection(first, length + breakLength);
+  text_->replaceSelection({});
+  ShowLineNum();
+}
+
+void frmEditor::cutToEnd() {
+  const int start = text_->selStart();
+  const int line = text_->lineFromChar(start);
+  const int end = text_->lineIndex(line) + text_->lineLength(line);
+  text_->setSelection(start, end - start);
+  text_->replaceSelection({});
+}
+
+void frmEditor::pasteLine() {
+  text_->replaceSelection(cutLine_ + "\r\n");
+  ShowLineNum();
+}
+
+void frmEditor::appendClipboard() {
+  const std::string former = clipboard().text().toLatin1().toStdString();
+  const std::string joined = former + "\r\n" + text_->selText();
+  clipboard().clear();
+  clipboard().setText(QString::fromLatin1(joined.data(), static_cast<qsizetype>(joined.size())));
+}
+
+void frmEditor::selectAll() { text_->setSelection(0, text_->textLength()); }
+
+void frmEditor::getLastSelection() {
+  const LastSelection& last = frame_.lastSelection();
+  text_->setSelection(last.start, last.length);
+  ShowLineNum();
+}
+
+void frmEditor::changeCase(int which) {
+  const int start = text_->selStart();
+  const std::string selected = text_->selText();
+  if (selected.empty()) return;
+  const std::string changed = which == 0 ? asciiUpper(selected) : which == 1 ? asciiLower(selected) : properCase(selected);
+  text_->replaceSelection(changed);
+  text_->setSelection(start, static_cast<int>(changed.size()));
+}
+
+}  // namespace lathwick::gui

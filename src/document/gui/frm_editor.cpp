@@ -1,0 +1,155 @@
+#include "document/gui/frm_editor.h"
+
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+#include "document/document_table.h"
+#include "document/gui/plain_text_control.h"
+#include "shell/gui/mdi_form.h"
+#include "shell/gui/menu_set.h"
+#include "shell/gui/status_panels.h"
+
+namespace lathwick::gui {
+
+frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag) {
+  setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  text_ = new PlainTextControl(this);
+  layout->addWidget(text_->widget());
+  setFocusProxy(text_->widget());
+
+  menus_ = std::make_unique<MenuSet>(documentMenuTable(), this, frame_.commands(), true);
+
+  QWidget* inner = text_->widget();
+  inner->installEventFilter(this);
+  inner->setContextMenuPolicy(Qt::PreventContextMenu);
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(inner)) area->viewport()->installEventFilter(this);
+
+  connect(text_, &TextControl::textChanged, this, &frmEditor::onTextChanged);
+  connect(text_, &TextControl::selectionChanged, this, &frmEditor::onSelectionChanged);
+}
+
+frmEditor::~frmEditor() = default;
+
+DocumentRecord& frmEditor::record() const { return frame_.documents().record(tag_); }
+
+std::string frmEditor::filename() const { return record().fileName; }
+
+void frmEditor::prepare() {
+  // Auto format colours the document once the formatting engine is present; until then the
+  // window simply comes up empty and ready for its text.
+  show();
+  text_->widget()->setFocus();
+}
+
+void frmEditor::setFileUndoable(bool undoable) {
+  if (undoable)
+    for (frmEditor* other : frame_.editors()) other->fileUndoable_ = false;
+  fileUndoable_ = undoable;
+}
+
+void frmEditor::ShowLineNum() {
+  frame_.statusPanels().setText("Range", "Line " + std::to_string(currentLine() + 1) + " of " +
+                                             std::to_string(LineCount()) + " ");
+}
+
+void frmEditor::En_Dis_able() {
+  const bool selection = text_->selLength() >= 1;
+  for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
+    menus_->setEnabled(name, selection);
+  menus_->setEnabled("mnuUndo", fileUndoable_ || text_->canUndo());
+  frame_.En_Dis_able();
+}
+
+void frmEditor::Form_Activate() {
+  ShowLineNum();
+  frame_.setCurrentScheme(record().scheme);
+  frame_.statusPanels().setOverwrite(text_->overwriteMode());
+  En_Dis_able();
+}
+
+void frmEditor::onTextChanged() {
+  record().changed = true;
+  fileUndoable_ = false;  // after a hand edit, undo falls back to the control's own
+  En_Dis_able();
+}
+
+void frmEditor::onSelectionChanged() {
+  const int length = text_->selLength();
+  if (length >= 1) frame_.lastSelection() = LastSelection{text_->selStart(), length, text_->selText()};
+  if (frame_.activeEditor() == this) En_Dis_able();
+}
+
+void frmEditor::Save() {
+  if (saveNeedsName(record().fileName))
+    frame_.saveAsPlain(*this);
+  else
+    frame_.SaveFile(*this, record().fileName);
+}
+
+void frmEditor::closeEvent(QCloseEvent* event) {
+  if (frame_.queryClose(*this))
+    event->ignore();
+  else
+    event->accept();
+}
+
+bool frmEditor::handleAltKey(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      for (frmEditor* window : frame_.editors()) window->rtfTextBox().scrollLines(key == Qt::Key_Up ? -1 : 1);
+      return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown: {
+      const int top = text_->firstVisibleLine();
+      for (frmEditor* window : frame_.editors())
+        if (window != this) window->rtfTextBox().scrollLines(top - window->rtfTextBox().firstVisibleLine());
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+bool frmEditor::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress: {
+      auto* key = static_cast<QKeyEvent*>(event);
+      const auto mods = key->modifiers() & ~Qt::KeypadModifier;
+      if (mods == Qt::AltModifier && handleAltKey(key->key())) return true;
+      break;
+    }
+    case QEvent::KeyRelease:
+      ShowLineNum();
+      frame_.statusPanels().setOverwrite(text_->overwriteMode());
+      break;
+    case QEvent::MouseButtonRelease:
+      ShowLineNum();
+      break;
+    case QEvent::MouseButtonPress: {
+      auto* mouse = static_cast<QMouseEvent*>(event);
+      if (mouse->button() != Qt::RightButton) break;
+      const auto mods = mouse->modifiers();
+      QMenu* popup = mods == Qt::ControlModifier ? menus_->menu("mnuSend")
+                     : mods == Qt::NoModifier    ? menus_->menu("mnuEdit")
+                                                 : nullptr;
+      if (popup) {
+        popup->popup(mouse->globalPosition().toPoint());
+        return true;
+      }
+      break;
+    }
+    default:
+      break;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace lathwick::gui

@@ -1,0 +1,78 @@
+#pragma once
+// frmEditor: one document window inside the frame. It holds the text control, its own menus
+// (shown in the frame's menu bar while the window is active), the record index in its tag, and
+// the per-window state: file-undoable flag and the line kept by Cut Line.
+#include <QWidget>
+#include <memory>
+#include <string>
+
+#include "document/gui/text_control.h"
+
+namespace lathwick {
+struct DocumentRecord;
+}
+
+namespace lathwick::gui {
+
+class MDIForm1;
+class MenuSet;
+
+class frmEditor : public QWidget {
+  Q_OBJECT
+ public:
+  frmEditor(MDIForm1& frame, int tag);
+  ~frmEditor() override;
+
+  int tag() const { return tag_; }
+  DocumentRecord& record() const;
+  TextControl& rtfTextBox() const { return *text_; }
+  MenuSet& menus() const { return *menus_; }
+
+  // The preparation routine: brings the window up before its text arrives.
+  void prepare();
+
+  std::string filename() const;
+  int LineCount() const { return text_->lineCount(); }
+  int currentLine() const { return text_->lineFromChar(text_->selStart()); }
+  bool FileUndoable() const { return fileUndoable_; }
+  void setFileUndoable(bool undoable);  // true clears the flag on every other window first
+
+  void ShowLineNum();
+  void En_Dis_able();
+  void Form_Activate();
+  void Save();
+
+  // Editing commands (the Edit menu and the toolbar)
+  void Undo();
+  void Cut();
+  void Copy();
+  void Paste();
+  void deleteKey();
+  void cutLine();
+  void cutToEnd();
+  void pasteLine();
+  void appendClipboard();
+  void selectAll();
+  void getLastSelection();
+  void changeCase(int which);  // 0 upper, 1 lower, 2 title
+
+  const std::string& keptLine() const { return cutLine_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void onTextChanged();
+  void onSelectionChanged();
+  bool handleAltKey(int key);
+
+  MDIForm1& frame_;
+  int tag_;
+  TextControl* text_;
+  std::unique_ptr<MenuSet> menus_;
+  bool fileUndoable_ = false;
+  std::string cutLine_;
+};
+
+}  // namespace lathwick::gui

@@ -1,0 +1,60 @@
+#pragma once
+// What a document window needs from its text control, and nothing more: the text as bytes (one
+// byte is one character), the selection, the line model, scrolling, file load and save, and the
+// control's own clipboard and undo. The window talks to the control only through this class,
+// so the control behind it can be exchanged without touching the window.
+#include <QObject>
+#include <string>
+
+class QWidget;
+
+namespace lathwick::gui {
+
+enum class TextKind { Plain, Rich };
+
+class TextControl : public QObject {
+  Q_OBJECT
+ public:
+  using QObject::QObject;
+  ~TextControl() override = default;
+
+  virtual QWidget* widget() = 0;
+
+  virtual std::string text() const = 0;
+  virtual int textLength() const = 0;
+  virtual int selStart() const = 0;
+  // As the control reports it; a very long selection may come back negative (see the
+  // selection length correction).
+  virtual int selLength() const = 0;
+  virtual std::string selText() const = 0;
+  virtual void setSelection(int start, int length) = 0;
+  virtual void replaceSelection(const std::string& bytes) = 0;
+
+  virtual int lineCount() const = 0;                // an empty text has one line
+  virtual int lineFromChar(int position) const = 0;
+  virtual int lineIndex(int line) const = 0;        // position of the line's first character
+  virtual int lineLength(int line) const = 0;       // without its break
+  virtual int firstVisibleLine() const = 0;
+  virtual void scrollLines(int lines) = 0;          // positive scrolls down
+
+  // Both throw AppError with a description fit for the user; a failed save leaves the text and
+  // the file on disk untouched.
+  virtual void loadFile(const std::string& path, TextKind kind) = 0;
+  virtual void saveFile(const std::string& path, TextKind kind) const = 0;
+  virtual bool supportsRichText() const = 0;
+
+  virtual bool canUndo() const = 0;
+  virtual void undo() = 0;
+  virtual void cut() = 0;
+  virtual void copy() = 0;
+  virtual void paste() = 0;
+  virtual void deleteForward() = 0;  // the Delete key
+  virtual bool overwriteMode() const = 0;
+
+ signals:
+  void textChanged();        // by the user or by a command, not by loadFile
+  void selectionChanged();   // the caret moved or the selection changed
+  void overwriteToggled(bool overwrite);
+};
+
+}  // namespace lathwick::gui

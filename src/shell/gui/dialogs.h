@@ -1,0 +1,48 @@
+#pragma once
+// The one seam through which the editor asks the user anything: message boxes, the open and
+// save dialogs, and handing the help page to the system's browser. The real windows use
+// QtDialogs; tests install their own answers.
+#include <optional>
+#include <string>
+
+class QWidget;
+
+namespace lathwick::gui {
+
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Icon { None, Information, Exclamation, Critical, Question };
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct FileRequest {
+  bool save = false;          // Save dialog; otherwise Open
+  std::string title;
+  std::string filter;         // "All Files (*.*)|*.*" style: description|pattern pairs
+  std::string initialFolder;
+  std::string fileName;       // proposed name
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual Answer message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) = 0;
+  // The chosen path, or nothing when the user cancelled.
+  virtual std::optional<std::string> chooseFile(const FileRequest& request) = 0;
+  // Shows a local document (the help page) in the system's viewer.
+  virtual void openInBrowser(const std::string& path) = 0;
+};
+
+class QtDialogs : public Dialogs {
+ public:
+  explicit QtDialogs(QWidget* parent) : parent_(parent) {}
+  Answer message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
+  std::optional<std::string> chooseFile(const FileRequest& request) override;
+  void openInBrowser(const std::string& path) override;
+
+ private:
+  QWidget* parent_;
+};
+
+// "Text (*.*)|*.*|Text (*.TXT)|*.TXT" -> "Text (*.*);;Text (*.TXT)" (the dialog's own form).
+std::string qtFilterOf(const std::string& filter);
+
+}  // namespace lathwick::gui

@@ -1,0 +1,410 @@
+#include "shell/gui/mdi_form.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "document/gui/frm_editor.h"
+#include "document/gui/plain_text_control.h"
+#include "platform/file_system.h"
+#include "shell/app_folder.h"
+#include "shell/gui/menu_set.h"
+#include "shell/gui/status_panels.h"
+
+namespace lathwick::gui {
+namespace {
+const char* const kToolbarIconNames[][2] = {
+    {"New", "document-new"},     {"Open", "document-open"},   {"Save", "document-save"},
+    {"Print", "document-print"}, {"Find", "edit-find"},       {"Cut", "edit-cut"},
+    {"Copy", "edit-copy"},       {"Paste", "edit-paste"},     {"Delete", "edit-delete"},
+    {"Undo", "edit-undo"},       {"Help", "help-contents"},
+};
+
+QIcon toolbarIcon(const std::string& key) {
+  for (const auto& pair : kToolbarIconNames)
+    if (key == pair[0]) return QIcon::fromTheme(QString::fromLatin1(pair[1]));
+  return {};
+}
+}  // namespace
+
+MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent)
+    : QMainWindow(parent),
+      values_(values),
+      settings_(settings),
+      ownDialogs_(std::make_unique<QtDialogs>(this)),
+      dialogs_(ownDialogs_.get()),
+      mdi_(new QMdiArea(this)),
+      currentScheme_(values.CurrentScheme) {
+  setObjectName(QStringLiteral("MDIForm1"));
+  setWindowTitle(QString::fromLatin1(kAppTitle));
+  setCentralWidget(mdi_);
+  mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+
+  registerCommands();
+  frameMenus_ = std::make_unique<MenuSet>(frameMenuTable(), this, commands_, false);
+  for (const char* name : {"mnuToolbar", "mnuStatus", "mnuAuto"}) frameMenus_->action(name)->setCheckable(true);
+  buildToolbar();
+  panels_ = new StatusPanels(statusBar());
+  connect(panels_, &StatusPanels::bookmarkPressed, this, &MDIForm1::onBookmark);
+  connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
+  qApp->installEventFilter(this);
+  showMenusOf(nullptr);
+  En_Dis_able();
+}
+
+MDIForm1::~MDIForm1() {
+  qApp->removeEventFilter(this);
+  // The documents go first: their windows still reach the frame while they are torn down.
+  for (QMdiSubWindow* sub : mdi_->subWindowList()) delete sub;
+}
+
+void MDIForm1::registerCommands() {
+  auto withEditor = [this](auto action) {
+    return [this, action](int) {
+      if (frmEditor* editor = activeEditor()) action(*editor);
+    };
+  };
+  commands_.add("mnuNew", [this](int) { newDocument(); });
+  commands_.add("mnuOpen", [this](int) { openDialog(0); });
+  commands_.add("mnuExit", [this](int) { close(); });
+  commands_.add("mnuRecentFile", [this](int index) {
+    if (index >= 1 && index < static_cast<int>(recentPaths_.size())) LoadDoc(recentPaths_[index]);
+  });
+  commands_.add("mnuToolbar", [this](int) { setToolbarVisible(!toolbar_->isVisible()); });
+  commands_.add("mnuStatus", [this](int) { setStatusVisible(!statusBar()->isVisible()); });
+  commands_.add("mnuAuto", [this](int) { setAutoFormat(!autoFormat_); });
+  commands_.add("mnuContents", [this](int) { showHelp(); });
+  commands_.add("mnuAbout", [this](int) {
+    dialogs_->message(values_.VersionText, std::string("About ") + kAppTitle, Buttons::Ok, Icon::Information);
+  });
+  const auto readMe = [this](int) { LoadDoc(values_.AppFolder + "Readme.txt"); };
+  commands_.add("mnuReadMe", readMe);
+  commands_.add("mnuRead", readMe);
+  commands_.add("mnuCascade", [this](int) { mdi_->cascadeSubWindows(); });
+  commands_.add("mnuTileVert", [this](int) { tileVertically(); });
+  commands_.add("mnuTilrHoriz", [this](int) { tileHorizontally(); });
+
+  commands_.add("mnuClose", withEditor([](frmEditor& e) {
+    if (auto* sub = qobject_cast<QMdiSubWindow*>(e.parentWidget())) sub->close();
+  }));
+  commands_.add("mnuSave", withEditor([](frmEditor& e) { e.Save(); }));
+  commands_.add("mnuSaveAsTXT", withEditor([this](frmEditor& e) { saveAsPlain(e); }));
+  if (PlainTextControl(nullptr).supportsRichText())
+    commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
+
+  commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
+  commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
+  commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));
+  commands_.add("mnuPaste", withEditor([](frmEditor& e) { e.Paste(); }));
+  commands_.add("Delete", withEditor([](frmEditor& e) { e.deleteKey(); }));
+  commands_.add("mnuCutLine", withEditor([](frmEditor& e) { e.cutLine(); }));
+  commands_.add("mnuCutToEnd", withEditor([](frmEditor& e) { e.cutToEnd(); }));
+  commands_.add("mnuPasteLine", withEditor([](frmEditor& e) { e.pasteLine(); }));
+  commands_.add("mnuAppend", withEditor([](frmEditor& e) { e.appendClipboard(); }));
+  commands_.add("mnuCleaeClip", [](int) { QApplication::clipboard()->clear(); });
+  commands_.add("mnuSelectAll", withEditor([](frmEditor& e) { e.selectAll(); }));
+  commands_.add("mnuGetLast", withEditor([](frmEditor& e) { e.getLastSelection(); }));
+  commands_.add("mnuUcase", withEditor([](frmEditor& e) { e.changeCase(0); }));
+  commands_.add("mnuLcase", withEditor([](frmEditor& e) { e.changeCase(1); }));
+  commands_.add("mnuTitlecase", withEditor([](frmEditor& e) { e.changeCase(2); }));
+}
+
+void MDIForm1::buildToolbar() {
+  toolbar_ = addToolBar(QStringLiteral("Toolbar1"));
+  toolbar_->setObjectName(QStringLiteral("Toolbar1"));
+  toolbar_->setMovable(false);
+  for (const ToolbarButton& button : toolbarTable()) {
+    if (button.isSeparator()) {
+      toolbar_->addSeparator();
+      continue;
+    }
+    QAction* action = toolbar_->addAction(toolbarIcon(button.key), QString::fromLatin1(button.key));
+    action->setObjectName(QString::fromLatin1(button.key));
+    action->setToolTip(QString::fromLatin1(button.tooltip));
+    const std::string command = button.command;
+    const int index = button.commandIndex;
+    connect(action, &QAction::triggered, this, [this, command, index] { commands_.run(command, index); });
+    toolActions_[button.key] = action;
+  }
+  openButton_ = qobject_cast<QToolButton*>(toolbar_->widgetForAction(toolActions_.at("Open")));
+  auto* folders = new QMenu(this);
+  for (int n = 1; n <= kQuickFolders; ++n) {
+    QAction* folder = folders->addAction(QStringLiteral("Folder%1").arg(n));
+    folder->setObjectName(QStringLiteral("Folder%1").arg(n));
+    connect(folder, &QAction::triggered, this, [this, n] { openDialog(n); });
+    quickFolders_.push_back(folder);
+  }
+  openButton_->setMenu(folders);
+  openButton_->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+QAction* MDIForm1::toolButton(const std::string& key) const {
+  auto it = toolActions_.find(key);
+  return it == toolActions_.end() ? nullptr : it->second;
+}
+
+void MDIForm1::refreshAvailability() {
+  frameMenus_->refreshAvailability();
+  for (frmEditor* editor : editors()) editor->menus().refreshAvailability();
+  En_Dis_able();
+}
+
+void MDIForm1::En_Dis_able() {
+  frmEditor* editor = activeEditor();
+  const bool selection = editor && editor->rtfTextBox().selLength() >= 1;
+  const bool undo = editor && (editor->FileUndoable() || editor->rtfTextBox().canUndo());
+  for (const ToolbarButton& button : toolbarTable()) {
+    if (button.isSeparator()) continue;
+    bool on = commands_.has(button.command, button.commandIndex) && (!button.needsDocument || editor);
+    const std::string key = button.key;
+    if (key == "Cut" || key == "Copy") on = on && selection;
+    if (key == "Undo") on = on && undo;
+    QAction* action = toolActions_.at(key);
+    action->setEnabled(on);
+    if (!commands_.has(button.command, button.commandIndex))
+      action->setToolTip(QString::fromLatin1(button.tooltip) + QStringLiteral(" (") +
+                         QString::fromLatin1(kNotYetAvailable) + QStringLiteral(")"));
+  }
+}
+
+QAction* MDIForm1::menuAction(const std::string& name, int index) const {
+  if (menusShownFor_) return menusShownFor_->menus().action(name, index);
+  return frameMenus_->action(name, index);
+}
+
+void MDIForm1::showMenusOf(frmEditor* editor) {
+  menuBar()->clear();
+  const MenuSet& set = editor ? editor->menus() : *frameMenus_;
+  for (QMenu* top : set.topMenus()) menuBar()->addMenu(top);
+  menusShownFor_ = editor;
+  syncSettingChecks();
+}
+
+frmEditor* MDIForm1::activeEditor() const {
+  QMdiSubWindow* sub = mdi_->currentSubWindow();
+  if (!sub) sub = mdi_->activeSubWindow();
+  return sub ? qobject_cast<frmEditor*>(sub->widget()) : nullptr;
+}
+
+std::vector<frmEditor*> MDIForm1::editors() const {
+  std::vector<frmEditor*> out;
+  for (const auto& [index, editor] : windows_) out.push_back(editor);
+  return out;
+}
+
+frmEditor* MDIForm1::editorOf(int index) const {
+  auto it = windows_.find(index);
+  return it == windows_.end() ? nullptr : it->second;
+}
+
+void MDIForm1::onSubWindowActivated(QMdiSubWindow* window) {
+  frmEditor* editor = window ? qobject_cast<frmEditor*>(window->widget()) : activeEditor();
+  if (editor != menusShownFor_) showMenusOf(editor);
+  if (editor)
+    editor->Form_Activate();
+  else
+    En_Dis_able();
+}
+
+void MDIForm1::fillWindowList(QMenu* menu) {
+  for (QAction* old : menu->actions())
+    if (old->property("windowEntry").toBool()) {
+      menu->removeAction(old);
+      old->deleteLater();
+    }
+  const auto windows = mdi_->subWindowList();
+  if (windows.isEmpty()) return;
+  QAction* separator = menu->addSeparator();
+  separator->setProperty("windowEntry", true);
+  int n = 0;
+  for (QMdiSubWindow* sub : windows) {
+    ++n;
+    QAction* entry = menu->addAction(QStringLiteral("&%1 %2").arg(n).arg(sub->windowTitle()));
+    entry->setProperty("windowEntry", true);
+    entry->setCheckable(true);
+    entry->setChecked(sub == mdi_->currentSubWindow());
+    connect(entry, &QAction::triggered, this, [this, sub] { mdi_->setActiveSubWindow(sub); });
+  }
+}
+
+void MDIForm1::tileVertically() {
+  const auto windows = mdi_->subWindowList();
+  if (windows.isEmpty()) return;
+  const QRect area = mdi_->viewport()->rect();
+  const int width = area.width() / static_cast<int>(windows.size());
+  int x = 0;
+  for (QMdiSubWindow* sub : windows) {
+    sub->showNormal();
+    sub->setGeometry(x, 0, width, area.height());
+    x += width;
+  }
+}
+
+void MDIForm1::tileHorizontally() {
+  const auto windows = mdi_->subWindowList();
+  if (windows.isEmpty()) return;
+  const QRect area = mdi_->viewport()->rect();
+  const int height = area.height() / static_cast<int>(windows.size());
+  int y = 0;
+  for (QMdiSubWindow* sub : windows) {
+    sub->showNormal();
+    sub->setGeometry(0, y, area.width(), height);
+    y += height;
+  }
+}
+
+void MDIForm1::setToolbarVisible(bool visible) {
+  toolbar_->setVisible(visible);
+  syncSettingChecks();
+}
+
+void MDIForm1::setStatusVisible(bool visible) {
+  statusBar()->setVisible(visible);
+  syncSettingChecks();
+}
+
+void MDIForm1::setAutoFormat(bool on) {
+  autoFormat_ = on;
+  syncSettingChecks();
+}
+
+void MDIForm1::syncSettingChecks() {
+  std::vector<MenuSet*> sets{frameMenus_.get()};
+  for (frmEditor* editor : editors()) sets.push_back(&editor->menus());
+  for (MenuSet* set : sets) {
+    const std::pair<const char*, bool> states[] = {{"mnuToolbar", !toolbar_->isHidden()},
+                                                   {"mnuStatus", !statusBar()->isHidden()},
+                                                   {"mnuAuto", autoFormat_}};
+    for (const auto& [name, on] : states) {
+      QAction* action = set->action(name);
+      action->setCheckable(true);
+      action->setChecked(on);
+    }
+  }
+}
+
+void MDIForm1::showHelp() {
+  if (FileExists(values_.HelpFile))
+    dialogs_->openInBrowser(values_.HelpFile);
+  else
+    dialogs_->message("The help file " + values_.HelpFile + " could not be found.", kAppTitle, Buttons::Ok,
+                      Icon::Information);
+}
+
+void MDIForm1::onBookmark(int number, Qt::MouseButton button) {
+  panels_->markBookmark(number);
+  frmEditor* editor = activeEditor();
+  if (!editor) return;
+  StatusPanel* panel = panels_->panel("Book" + std::to_string(number));
+  TextControl& text = editor->rtfTextBox();
+  if (button == Qt::RightButton) {
+    panel->tag = text.firstVisibleLine();
+    panel->setToolTip(QStringLiteral("Top line %1").arg(*panel->tag + 1));
+  } else if (button == Qt::LeftButton && panel->tag) {
+    text.scrollLines(*panel->tag - text.firstVisibleLine());
+  }
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+    // The X server reports the lock keys in the modifier state of every key event.
+    const quint32 state = static_cast<QKeyEvent*>(event)->nativeModifiers();
+    const bool caps = (state & 0x02) != 0, num = (state & 0x10) != 0;
+    if (caps != capsLock_ || num != numLock_) {
+      capsLock_ = caps;
+      numLock_ = num;
+      panels_->setLockKeys(caps, num);
+    }
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+// Load and close -------------------------------------------------------------------------------
+
+void MDIForm1::load() {
+  try {
+    const QRect screen = QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->availableGeometry()
+                                                          : QRect(0, 0, 1280, 800);
+    const FrameSettings fs = readFrameSettings(settings_, pixelsToTwips(screen.width()),
+                                               pixelsToTwips(screen.height()), executableFolder());
+    lastPath_ = fs.lastPath;
+    toolbar_->setVisible(fs.toolbar);
+    statusBar()->setVisible(fs.status);
+    autoFormat_ = fs.autoFormat;
+    for (int n = 1; n <= kQuickFolders; ++n) {
+      const std::string& tag = fs.quickFolders[static_cast<std::size_t>(n - 1)];
+      quickFolders_[static_cast<std::size_t>(n - 1)]->setData(QString::fromLocal8Bit(tag.c_str()));
+      quickFolders_[static_cast<std::size_t>(n - 1)]->setText(QString::fromLocal8Bit(tag.c_str()));
+    }
+    if (fs.windowState == 0) {
+      setGeometry(twipsToPixels(fs.left), twipsToPixels(fs.top), twipsToPixels(fs.width), twipsToPixels(fs.height));
+    } else {
+      setWindowState(fs.windowState == 2 ? Qt::WindowMaximized : Qt::WindowMinimized);
+    }
+    syncSettingChecks();
+    rebuildRecentMenus();
+    // The script host joins here once macros are available.
+  } catch (const std::exception& e) {
+    dialogs_->message(e.what(), "MDIForm load", Buttons::Ok, Icon::Information);
+  }
+}
+
+void MDIForm1::openStartupFile() {
+  if (!values_.StartupFile.empty() && FileExists(values_.StartupFile)) LoadDoc(values_.StartupFile);
+}
+
+FrameSettings MDIForm1::currentFrameSettings() const {
+  FrameSettings fs;
+  fs.toolbar = !toolbar_->isHidden();
+  fs.status = !statusBar()->isHidden();
+  fs.autoFormat = autoFormat_;
+  fs.windowState = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+  const QRect normal = isMaximized() || isMinimized() ? normalGeometry() : geometry();
+  fs.left = pixelsToTwips(normal.x());
+  fs.top = pixelsToTwips(normal.y());
+  fs.width = pixelsToTwips(normal.width());
+  fs.height = pixelsToTwips(normal.height());
+  for (int n = 1; n <= kQuickFolders; ++n)
+    fs.quickFolders[static_cast<std::size_t>(n - 1)] =
+        quickFolders_[static_cast<std::size_t>(n - 1)]->data().toString().toLocal8Bit().toStdString();
+  fs.lastPath = lastPath_;
+  fs.record = currentScheme_;
+  return fs;
+}
+
+void MDIForm1::deleteWorkFiles() {
+  for (const std::string* file : {&values_.Temp1File, &values_.Temp2File, &values_.Temp3File, &values_.GrafxFile,
+                                  &values_.PrintRtfFile, &values_.UndoFile})
+    if (!file->empty() && FileExists(*file)) removeFile(*file);
+  const std::string sample = values_.AppFolder + "sampletext.rtf";
+  if (FileExists(sample)) removeFile(sample);
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+  // Every document is asked first; one that stays open keeps the frame open too.
+  mdi_->closeAllSubWindows();
+  if (!mdi_->subWindowList().isEmpty()) {
+    event->ignore();
+    return;
+  }
+  try {
+    writeFrameSettings(settings_, currentFrameSettings());
+  } catch (const std::exception& e) {
+    dialogs_->message(e.what(), kAppTitle, Buttons::Ok, Icon::Information);
+  }
+  deleteWorkFiles();
+  event->accept();
+}
+
+}  // namespace lathwick::gui

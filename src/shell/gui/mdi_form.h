@@ -1,0 +1,140 @@
+#pragma once
+// MDIForm1: the frame window. It holds the document windows in an MDI area, the toolbar, the
+// status bar and the frame's own short menu (shown while no document window is active), and it
+// owns the command dispatcher through which every menu entry and toolbar button runs.
+#include <QMainWindow>
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "document/document_table.h"
+#include "shell/command_dispatch.h"
+#include "shell/gui/dialogs.h"
+#include "shell/settings_table.h"
+#include "shell/startup.h"
+
+class QAction;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QToolBar;
+class QToolButton;
+
+namespace lathwick::gui {
+
+class frmEditor;
+class MenuSet;
+class StatusPanels;
+
+// The last non-empty selection made in any document.
+struct LastSelection {
+  int start = 0;
+  int length = 0;
+  std::string text;
+};
+
+class MDIForm1 : public QMainWindow {
+  Q_OBJECT
+ public:
+  MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent = nullptr);
+  ~MDIForm1() override;
+
+  // The frame's load sequence: settings, window state, quick folders, recent menus. Errors are
+  // reported under "MDIForm load". Call before show().
+  void load();
+  // After the frame is shown: opens the file named on the command line, when it exists.
+  void openStartupFile();
+
+  // Documents --------------------------------------------------------------------------------
+  frmEditor* newDocument();
+  frmEditor* LoadDoc(std::string fileName);  // nullptr when nothing was opened
+  bool SaveFile(frmEditor& window, const std::string& fileName);
+  void saveAsPlain(frmEditor& window);
+  void saveAsRich(frmEditor& window);
+  // The close query of a changed document: true when the window is to stay open.
+  bool queryClose(frmEditor& window);
+
+  frmEditor* activeEditor() const;
+  std::vector<frmEditor*> editors() const;  // in the order they were opened
+  DocumentTable& documents() { return documents_; }
+  frmEditor* editorOf(int index) const;
+
+  // Commands and menus -------------------------------------------------------------------------
+  CommandDispatcher& commands() { return commands_; }
+  // After a later part registers commands: menus and toolbar enable what now exists.
+  void refreshAvailability();
+  // The action of a menu entry in the menu now shown (the active document's, or the frame's).
+  QAction* menuAction(const std::string& name, int index = -1) const;
+  MenuSet& frameMenus() const { return *frameMenus_; }
+  QAction* toolButton(const std::string& key) const;
+  QToolButton* openButton() const { return openButton_; }
+  QAction* quickFolderAction(int n) const { return quickFolders_.at(n - 1); }
+  void En_Dis_able();  // toolbar and menu states for the active document
+
+  // Application-wide state ---------------------------------------------------------------------
+  const AppValues& values() const { return values_; }
+  SettingsStore& settings() { return settings_; }
+  StatusPanels& statusPanels() const { return *panels_; }
+  LastSelection& lastSelection() { return lastSelection_; }
+  bool autoFormat() const { return autoFormat_; }
+  std::int16_t currentScheme() const { return currentScheme_; }
+  void setCurrentScheme(std::int16_t scheme) { currentScheme_ = scheme; }
+  const std::string& lastPath() const { return lastPath_; }
+
+  void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
+  Dialogs& dialogs() { return *dialogs_; }
+
+  void rebuildRecentMenus();
+  void recentListUpdate(const std::string& name);
+
+  QMdiArea* mdiArea() const { return mdi_; }
+  void tileVertically();    // side by side
+  void tileHorizontally();  // one above the other
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void registerCommands();
+  void buildToolbar();
+  void showMenusOf(frmEditor* editor);
+  void onSubWindowActivated(QMdiSubWindow* window);
+  void fillWindowList(QMenu* menu);
+  void openDialog(int quickFolder);  // 0: the Open command itself
+  void showHelp();
+  void setToolbarVisible(bool visible);
+  void setStatusVisible(bool visible);
+  void setAutoFormat(bool on);
+  void syncSettingChecks();
+  void onBookmark(int number, Qt::MouseButton button);
+  frmEditor* createWindow(int index);
+  void deleteWorkFiles();
+  FrameSettings currentFrameSettings() const;
+
+  AppValues values_;
+  SettingsStore& settings_;
+  std::unique_ptr<QtDialogs> ownDialogs_;
+  Dialogs* dialogs_;
+  CommandDispatcher commands_;
+  DocumentTable documents_;
+  std::map<int, frmEditor*> windows_;  // by document index
+  QMdiArea* mdi_;
+  std::unique_ptr<MenuSet> frameMenus_;
+  frmEditor* menusShownFor_ = nullptr;
+  QToolBar* toolbar_ = nullptr;
+  QToolButton* openButton_ = nullptr;
+  std::map<std::string, QAction*> toolActions_;
+  std::vector<QAction*> quickFolders_;
+  StatusPanels* panels_ = nullptr;
+  LastSelection lastSelection_;
+  std::vector<std::string> recentPaths_;  // the path behind each recent menu entry, 1-based
+  std::string lastPath_;
+  bool autoFormat_ = false;
+  std::int16_t currentScheme_ = 1;
+  bool capsLock_ = false, numLock_ = false;
+};
+
+}  // namespace lathwick::gui
