@@ -94,10 +94,12 @@ void frmEditor::Save() {
 }
 
 void frmEditor::closeEvent(QCloseEvent* event) {
-  if (frame_.queryClose(*this))
+  if (frame_.queryClose(*this)) {
     event->ignore();
-  else
-    event->accept();
+    return;
+  }
+  event->accept();
+  frame_.forgetWindow(tag_);
 }
 
 bool frmEditor::handleAltKey(int key) {

@@ -48,8 +48,6 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   setObjectName(QStringLiteral("MDIForm1"));
   setWindowTitle(QString::fromLatin1(kAppTitle));
   setCentralWidget(mdi_);
-  mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 
   registerCommands();
   frameMenus_ = std::make_unique<MenuSet>(frameMenuTable(), this, commands_, false);

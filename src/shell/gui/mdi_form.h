@@ -60,6 +60,8 @@ class MDIForm1 : public QMainWindow {
   std::vector<frmEditor*> editors() const;  // in the order they were opened
   DocumentTable& documents() { return documents_; }
   frmEditor* editorOf(int index) const;
+  // A document window has closed: its slot is free and it no longer takes part in anything.
+  void forgetWindow(int index);
 
   // Commands and menus -------------------------------------------------------------------------
   CommandDispatcher& commands() { return commands_; }

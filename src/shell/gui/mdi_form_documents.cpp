@@ -53,16 +53,21 @@ frmEditor* MDIForm1::createWindow(int index) {
   const QSize room = mdi_->viewport()->size();
   sub->resize(std::max(480, room.width() * 2 / 3), std::max(320, room.height() * 2 / 3));
   windows_[index] = editor;
-  connect(editor, &QObject::destroyed, this, [this, index, editor] {
-    windows_.erase(index);
-    if (documents_.valid(index)) documents_.release(index);
-    if (menusShownFor_ == editor) menusShownFor_ = nullptr;
-    if (windows_.empty()) {
-      showMenusOf(nullptr);
-      En_Dis_able();
-    }
-  });
+  connect(editor, &QObject::destroyed, this, [this, index] { forgetWindow(index); });
   return editor;
+}
+
+void MDIForm1::forgetWindow(int index) {
+  auto it = windows_.find(index);
+  if (it == windows_.end()) return;
+  frmEditor* editor = it->second;
+  windows_.erase(it);
+  if (documents_.valid(index)) documents_.release(index);
+  if (menusShownFor_ == editor) showMenusOf(nullptr);
+  if (windows_.empty()) {
+    showMenusOf(nullptr);
+    En_Dis_able();
+  }
 }
 
 frmEditor* MDIForm1::newDocument() {

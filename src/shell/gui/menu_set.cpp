@@ -27,6 +27,7 @@ MenuSet::MenuSet(std::span<const MenuEntry> table, QWidget* owner, const Command
       top->menuAction()->setVisible(e.visible);
       topMenus_.push_back(top);
       menus_[e.name] = top;
+      actions_[Key{e.name, e.index}] = top->menuAction();
       parents[1] = top;
       continue;
     }
@@ -85,7 +86,7 @@ void MenuSet::refreshAvailability() {
   }
   for (const auto& [key, action] : actions_) {
     QMenu* submenu = action->menu();
-    if (!submenu) continue;
+    if (!submenu || topMenus_.contains(submenu)) continue;  // top-level menus always open
     bool any = false;
     for (QAction* child : submenu->actions())
       if (!child->isSeparator() && child->toolTip() != QString::fromLatin1(kNotYetAvailable)) any = true;

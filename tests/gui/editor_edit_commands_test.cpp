@@ -1,0 +1,69 @@
+// The Edit menu's line, clipboard and case commands, driven through their menu entries.
+#include <QClipboard>
+
+#include "frame_fixture.h"
+
+using namespace lathwick;
+using lathwick::test::FrameTest;
+
+TEST_F(FrameTest, CutLineAndPasteLineMoveALine) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", "N10 G00\r\nN20 G01\r\nN30 M30\r\n"));
+  auto& text = e->rtfTextBox();
+  text.setSelection(text.lineIndex(1) + 3, 0);
+  trigger("mnuCutLine");
+  EXPECT_EQ(text.text(), "N10 G00\r\nN30 M30\r\n");
+  EXPECT_EQ(e->keptLine(), "N20 G01");
+  text.setSelection(0, 0);
+  trigger("mnuPasteLine");
+  EXPECT_EQ(text.text(), "N20 G01\r\nN10 G00\r\nN30 M30\r\n");
+}
+
+TEST_F(FrameTest, CutToEndStopsAtTheLineBreak) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", "N10 G00 X1\r\nN20\r\n"));
+  e->rtfTextBox().setSelection(4, 0);
+  trigger("mnuCutToEnd");
+  EXPECT_EQ(e->rtfTextBox().text(), "N10 \r\nN20\r\n");
+}
+
+TEST_F(FrameTest, CaseCommandsChangeOnlyTheSelection) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", "n10 g01 x1 (tool one)\r\n"));
+  auto& text = e->rtfTextBox();
+  text.setSelection(0, 10);
+  trigger("mnuUcase");
+  EXPECT_EQ(text.text(), "N10 G01 X1 (tool one)\r\n");
+  text.setSelection(11, 10);  // "(" begins the first word, so its "t" stays small
+  trigger("mnuTitlecase");
+  EXPECT_EQ(text.text(), "N10 G01 X1 (tool One)\r\n");
+  text.setSelection(12, 8);
+  trigger("mnuTitlecase");
+  EXPECT_EQ(text.text(), "N10 G01 X1 (Tool One)\r\n");
+  text.setSelection(0, 3);
+  trigger("mnuLcase");
+  EXPECT_EQ(text.text(), "n10 G01 X1 (Tool One)\r\n");
+  EXPECT_TRUE(e->record().changed);
+}
+
+TEST_F(FrameTest, AppendEmptyClipboardSelectAllAndGetLastSelection) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", "G00 X1\r\nG01 Y2\r\n"));
+  auto& text = e->rtfTextBox();
+  trigger("mnuCleaeClip");
+  EXPECT_TRUE(QApplication::clipboard()->text().isEmpty());
+  text.setSelection(8, 6);
+  trigger("mnuAppend");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "\r\nG01 Y2");
+  text.setSelection(0, 3);
+  trigger("mnuAppend");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "\r\nG01 Y2\r\nG00");
+  text.setSelection(0, 0);
+  trigger("mnuSelectAll");
+  EXPECT_EQ(text.selLength(), text.textLength());
+  text.setSelection(8, 3);
+  text.setSelection(1, 0);
+  trigger("mnuGetLast");  // the whole text was the last selection before "G01"
+  EXPECT_EQ(text.selStart(), 8);
+  EXPECT_EQ(text.selLength(), 3);
+}

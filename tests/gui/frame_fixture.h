@@ -1,0 +1,140 @@
+#pragma once
+// A frame window on a fresh application folder and settings file, with scripted answers to
+// every question it asks. Tests drive it through the real menu actions.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "document/gui/frm_editor.h"
+#include "shell/gui/dialogs.h"
+#include "shell/gui/mdi_form.h"
+#include "shell/settings_store.h"
+#include "shell/startup.h"
+#include "support/temp_dir.h"
+
+namespace lathwick::test {
+
+inline QApplication& guiApp() {
+  static int argc = 1;
+  static char name[] = "lathwick_gui_tests";
+  static char* argv[] = {name, nullptr};
+  static QApplication* app = new QApplication(argc, argv);
+  return *app;
+}
+
+// Answers the frame's questions from queues and records what it was asked.
+class ScriptedDialogs : public gui::Dialogs {
+ public:
+  struct Message {
+    std::string text, caption;
+    gui::Buttons buttons;
+    gui::Icon icon;
+  };
+  std::deque<gui::Answer> answers;                      // default: Ok / Cancel for questions
+  std::deque<std::optional<std::string>> files;         // default: cancelled
+  std::vector<Message> messages;
+  std::vector<gui::FileRequest> requests;
+  std::vector<std::string> opened;
+
+  gui::Answer message(const std::string& text, const std::string& caption, gui::Buttons buttons,
+                      gui::Icon icon) override {
+    messages.push_back({text, caption, buttons, icon});
+    if (answers.empty()) return buttons == gui::Buttons::Ok ? gui::Answer::Ok : gui::Answer::Cancel;
+    const gui::Answer a = answers.front();
+    answers.pop_front();
+    return a;
+  }
+  std::optional<std::string> chooseFile(const gui::FileRequest& request) override {
+    requests.push_back(request);
+    if (files.empty()) return std::nullopt;
+    auto f = files.front();
+    files.pop_front();
+    return f;
+  }
+  void openInBrowser(const std::string& path) override { opened.push_back(path); }
+};
+
+// Key and mouse input delivered as the window system would (press, then release).
+inline void keyClick(QWidget* w, int key, Qt::KeyboardModifiers mods = Qt::NoModifier, const QString& text = {}) {
+  QKeyEvent press(QEvent::KeyPress, key, mods, text);
+  QApplication::sendEvent(w, &press);
+  QKeyEvent release(QEvent::KeyRelease, key, mods, text);
+  QApplication::sendEvent(w, &release);
+  QApplication::processEvents();
+}
+inline void keyRelease(QWidget* w, int key) {
+  QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+  QApplication::sendEvent(w, &release);
+}
+inline void mouseClick(QWidget* w, Qt::MouseButton button) {
+  const QPointF at(w->width() / 2.0, w->height() / 2.0);
+  QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), button, button, Qt::NoModifier);
+  QApplication::sendEvent(w, &press);
+  QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), button, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(w, &release);
+}
+
+class FrameTest : public ::testing::Test {
+ protected:
+  FrameTest() : settings(config.file("Lathwick.ini")) {
+    guiApp();
+    app.write("Lathwick.dat", std::string(100, ' '));
+    values.AppFolder = app.folder();
+    values.DataFilePath = app.folder() + "Lathwick.dat";
+    setWorkFiles(values, values.AppFolder);
+    values.CurrentScheme = 1;
+    values.VersionText = makeVersionText(kAppTitle, 0, 1);
+  }
+  ~FrameTest() override {
+    if (frame) {
+      // Leave without questions: whatever a test left changed is dropped.
+      for (gui::frmEditor* e : frame->editors()) e->record().changed = false;
+      frame.reset();
+    }
+  }
+
+  gui::MDIForm1& start() {
+    frame = std::make_unique<gui::MDIForm1>(values, settings);
+    frame->setDialogs(&dialogs);
+    frame->load();
+    frame->show();
+    QApplication::processEvents();
+    return *frame;
+  }
+
+  // Runs a command through the action of the menu now shown.
+  void trigger(const std::string& name, int index = -1) {
+    QAction* action = frame->menuAction(name, index);
+    ASSERT_NE(action, nullptr) << name;
+    ASSERT_TRUE(action->isEnabled()) << name << " is disabled";
+    action->trigger();
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  gui::frmEditor* openFile(const std::string& path) {
+    dialogs.files.push_back(path);
+    trigger("mnuOpen");
+    return frame->activeEditor();
+  }
+
+  std::string caption(gui::frmEditor* e) const { return e->windowTitle().toStdString(); }
+
+  TempDir config, app, files;
+  SettingsStore settings;
+  AppValues values;
+  ScriptedDialogs dialogs;
+  std::unique_ptr<gui::MDIForm1> frame;
+};
+
+}  // namespace lathwick::test

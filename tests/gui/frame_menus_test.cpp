@@ -1,0 +1,112 @@
+// The menus and toolbar the frame shows: captions as tabulated, the document window's menu
+// taking the frame's place, and entries for missing features disabled with a tooltip.
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "frame_fixture.h"
+#include "shell/gui/menu_set.h"
+
+using namespace lathwick;
+using lathwick::test::FrameTest;
+
+namespace {
+std::vector<std::string> topCaptions(QMenuBar* bar) {
+  std::vector<std::string> out;
+  for (QAction* a : bar->actions())
+    if (a->isVisible()) out.push_back(a->text().toStdString());
+  return out;
+}
+using Strings = std::vector<std::string>;
+}  // namespace
+
+TEST_F(FrameTest, FrameMenuGivesWayToTheDocumentMenuAndComesBack) {
+  start();
+  EXPECT_EQ(topCaptions(frame->menuBar()), (Strings{"&File", "&Settings", "&Help"}));
+  trigger("mnuNew");
+  EXPECT_EQ(topCaptions(frame->menuBar()), (Strings{"&File", "&Edit", "&View", "S&cheme", "&Options", "&Settings",
+                                                    "&Window", "&Macro", "&Help"}));
+  // "Procedures" is there, hidden until scripts add entries.
+  ASSERT_NE(frame->menuAction("mnuProcedures"), nullptr);
+  EXPECT_FALSE(frame->menuAction("mnuProcedures")->isVisible());
+  trigger("mnuClose");
+  EXPECT_EQ(topCaptions(frame->menuBar()), (Strings{"&File", "&Settings", "&Help"}));
+}
+
+TEST_F(FrameTest, DocumentMenuKeepsItsOwnSpellingsAndKeys) {
+  start();
+  trigger("mnuNew");
+  const auto text = [&](const char* name, int index = -1) {
+    return frame->menuAction(name, index)->text().toStdString();
+  };
+  const auto keys = [&](const char* name, int index = -1) {
+    return frame->menuAction(name, index)->shortcut().toString().toStdString();
+  };
+  EXPECT_EQ(text("mnuCut"), "Cu&t\tCtrl+X");
+  EXPECT_EQ(text("mnuUndo"), "&Undo\tCtrl+Z");
+  EXPECT_EQ(text("mnuContents"), "&Contents\tF1");
+  EXPECT_EQ(text("mnuCleaeClip"), "&Empty Clipboard");
+  EXPECT_EQ(text("mnuTileVert"), "Tile &Vertically        { II }");
+  EXPECT_EQ(text("mnuTilrHoriz"), "Tile &Horizontally   { = }");
+  EXPECT_EQ(text("mnuSaveAsTXT"), "Save &As *.*");
+  EXPECT_EQ(text("mnuModal", 2), "&Reload");
+  EXPECT_EQ(keys("mnuCutToEnd"), "Shift+F5");
+  EXPECT_EQ(keys("mnuExecuteMacro", 1), "Ctrl+L");
+  EXPECT_EQ(keys("mnuModal", 1), "F7");
+  EXPECT_EQ(keys("mnuShow"), "F11");
+  EXPECT_EQ(keys("mnuContents"), "F1");
+  // The text control handles the clipboard keys itself: the menu only shows them.
+  EXPECT_TRUE(frame->menuAction("mnuCut")->shortcut().isEmpty());
+}
+
+TEST_F(FrameTest, MissingFeaturesAreDisabledAndSaySo) {
+  start();
+  EXPECT_FALSE(frame->menuAction("mnuEditSchemes")->isEnabled());
+  trigger("mnuNew");
+  for (auto [name, index] : std::vector<std::pair<const char*, int>>{
+           {"mnuModal", 0}, {"mnuResequence", -1}, {"mnuPrintPlain", -1}, {"mnuExecuteMacro", 0},
+           {"mnuFind", -1}, {"mnuJunkFilter", -1}, {"mnuShell", 0}, {"mnuSaveRTF", -1}}) {
+    QAction* a = frame->menuAction(name, index);
+    ASSERT_NE(a, nullptr) << name;
+    EXPECT_FALSE(a->isEnabled()) << name;
+    EXPECT_EQ(a->toolTip().toStdString(), gui::kNotYetAvailable) << name;
+  }
+  // A submenu with nothing usable in it is disabled as a whole; one with something is not.
+  EXPECT_FALSE(frame->menuAction("mnuPrint")->isEnabled());
+  EXPECT_TRUE(frame->menuAction("mnuSaveAs")->isEnabled());
+  EXPECT_FALSE(frame->toolButton("Modes")->isEnabled());
+  EXPECT_NE(frame->toolButton("Modes")->toolTip().toStdString().find(gui::kNotYetAvailable), std::string::npos);
+}
+
+TEST_F(FrameTest, ALaterPartPlugsInByRegisteringItsCommand) {
+  start();
+  trigger("mnuNew");
+  int runs = 0;
+  frame->commands().add("mnuResequence", [&](int) { ++runs; });
+  frame->refreshAvailability();
+  trigger("mnuResequence");
+  frame->toolButton("Renumber")->trigger();
+  EXPECT_EQ(runs, 2);
+}
+
+TEST_F(FrameTest, ToolbarHasItsButtonsInOrderWithTheQuickFolders) {
+  settings.save("Startup", "QuickFolder2", files.folder());
+  start();
+  auto* bar = frame->findChild<QToolBar*>("Toolbar1");
+  ASSERT_NE(bar, nullptr);
+  Strings keys;
+  for (QAction* a : bar->actions()) keys.push_back(a->isSeparator() ? "-" : a->objectName().toStdString());
+  EXPECT_EQ(keys, (Strings{"New", "Open", "Save", "-", "Print", "-", "Find", "-", "Cut", "Copy", "Paste", "Delete",
+                           "Undo", "-", "Codes", "Modes", "-", "Expand", "Renumber", "-", "Comm", "Help"}));
+  EXPECT_EQ(frame->toolButton("Renumber")->toolTip().toStdString().rfind("Resequence line numbers ", 0), 0u);
+  EXPECT_EQ(frame->toolButton("New")->toolTip().toStdString(), "New document");
+  ASSERT_NE(frame->openButton()->menu(), nullptr);
+  EXPECT_EQ(frame->openButton()->menu()->actions().size(), 4);
+  EXPECT_EQ(frame->quickFolderAction(1)->text().toStdString(), "Folder1");
+  EXPECT_EQ(frame->quickFolderAction(2)->text().toStdString(), files.folder());
+  // Without a document only New, Open and Help can act.
+  EXPECT_TRUE(frame->toolButton("New")->isEnabled());
+  EXPECT_FALSE(frame->toolButton("Save")->isEnabled());
+  EXPECT_FALSE(frame->toolButton("Paste")->isEnabled());
+}
