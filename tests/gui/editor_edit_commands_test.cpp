@@ -67,3 +67,22 @@ TEST_F(FrameTest, AppendEmptyClipboardSelectAllAndGetLastSelection) {
   EXPECT_EQ(text.selStart(), 8);
   EXPECT_EQ(text.selLength(), 3);
 }
+
+TEST_F(FrameTest, TheMenusKeysAreNotClaimedByTheTextControl) {
+  start();
+  trigger("mnuNew");
+  QWidget* text = frame->activeEditor()->rtfTextBox().widget();
+  const auto claims = [&](int key, Qt::KeyboardModifiers mods) {
+    QKeyEvent probe(QEvent::ShortcutOverride, key, mods);
+    probe.ignore();
+    QApplication::sendEvent(text, &probe);
+    return probe.isAccepted();
+  };
+  EXPECT_FALSE(claims(Qt::Key_A, Qt::ControlModifier));
+  EXPECT_FALSE(claims(Qt::Key_D, Qt::ControlModifier));
+  EXPECT_FALSE(claims(Qt::Key_L, Qt::ControlModifier));
+  EXPECT_FALSE(claims(Qt::Key_E, Qt::ControlModifier));
+  // Its own editing keys stay with it.
+  EXPECT_TRUE(claims(Qt::Key_Z, Qt::ControlModifier));
+  EXPECT_TRUE(claims(Qt::Key_X, Qt::ControlModifier));
+}

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStyle>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -47,6 +48,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
       currentScheme_(values.CurrentScheme) {
   setObjectName(QStringLiteral("MDIForm1"));
   setWindowTitle(QString::fromLatin1(kAppTitle));
+  setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
   setCentralWidget(mdi_);
 
   registerCommands();

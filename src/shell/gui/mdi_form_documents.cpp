@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QStyle>
 #include <algorithm>
 #include <fstream>
 
@@ -50,6 +51,7 @@ frmEditor* MDIForm1::createWindow(int index) {
   connect(windowMenu, &QMenu::aboutToShow, this, [this, windowMenu] { fillWindowList(windowMenu); });
   QMdiSubWindow* sub = mdi_->addSubWindow(editor);
   sub->setAttribute(Qt::WA_DeleteOnClose);
+  sub->setWindowIcon(style()->standardIcon(QStyle::SP_FileIcon));
   const QSize room = mdi_->viewport()->size();
   sub->resize(std::max(480, room.width() * 2 / 3), std::max(320, room.height() * 2 / 3));
   windows_[index] = editor;
