@@ -86,3 +86,22 @@ TEST_F(FrameTest, TheMenusKeysAreNotClaimedByTheTextControl) {
   EXPECT_TRUE(claims(Qt::Key_Z, Qt::ControlModifier));
   EXPECT_TRUE(claims(Qt::Key_X, Qt::ControlModifier));
 }
+
+TEST_F(FrameTest, MenuKeysRunTheirCommandsInTheActiveDocument) {
+  start();
+  QApplication::setActiveWindow(frame.get());
+  gui::frmEditor* e = openFile(files.write("p.nc", "N10 G00\r\nN20 G01\r\n"));
+  e->rtfTextBox().widget()->setFocus();
+  QApplication::clipboard()->setText(QStringLiteral("x"));
+  EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_E, Qt::ControlModifier));
+  EXPECT_TRUE(QApplication::clipboard()->text().isEmpty());
+  EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_F5));
+  EXPECT_EQ(e->rtfTextBox().text(), "N20 G01\r\n");
+  EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_A, Qt::ControlModifier));
+  EXPECT_EQ(e->rtfTextBox().selLength(), e->rtfTextBox().textLength());
+  // Keys of features not yet there do nothing.
+  EXPECT_FALSE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_F6));
+  app.write("help/index.html", "<html></html>");
+  EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_F1));
+  EXPECT_EQ(dialogs.opened.size(), 1u);
+}

@@ -22,7 +22,20 @@
 #include "shell/startup.h"
 #include "support/temp_dir.h"
 
+// Qt's own entry for a key that may be a shortcut (what the window system's key delivery runs
+// first); true when a shortcut took the key.
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* o, ulong timestamp, int k, Qt::KeyboardModifiers mods,
+                                               const QString& text = QString(), bool autorep = false,
+                                               ushort count = 1);
+
 namespace lathwick::test {
+
+// Presses a key the way the user would: shortcuts of the active window first, else the widget.
+inline bool pressShortcut(QWidget* w, int key, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+  const bool taken = qt_sendShortcutOverrideEvent(w, 0, key, mods);
+  QApplication::processEvents();
+  return taken;
+}
 
 inline QApplication& guiApp() {
   static int argc = 1;
