@@ -1,7 +1,11 @@
 // A document window's read-out, its enabling rules, the Alt keys across windows and the
 // status-bar bookmarks.
+#include <QAbstractScrollArea>
+#include <QMenu>
+
 #include "document/document_table.h"
 #include "frame_fixture.h"
+#include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 
 using namespace lathwick;
@@ -99,4 +103,25 @@ TEST_F(FrameTest, BookmarksRememberTheTopLineAndGoBackToIt) {
   // An unset bookmark does nothing.
   lathwick::test::mouseClick(frame->statusPanels().panel("Book3"), Qt::LeftButton);
   EXPECT_EQ(e->rtfTextBox().firstVisibleLine(), 25);
+}
+
+TEST_F(FrameTest, RightButtonOpensTheEditMenuAndCtrlRightTheSendToMenu) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", lines(3)));
+  auto* area = qobject_cast<QAbstractScrollArea*>(e->rtfTextBox().widget());
+  ASSERT_NE(area, nullptr);
+  QWidget* view = area->viewport();
+  const QPointF at(10, 10);
+  QMouseEvent right(QEvent::MouseButtonPress, at, view->mapToGlobal(at), Qt::RightButton, Qt::RightButton,
+                    Qt::NoModifier);
+  QApplication::sendEvent(view, &right);
+  QMenu* edit = e->menus().menu("mnuEdit");
+  EXPECT_TRUE(edit->isVisible());
+  edit->hide();
+  QMouseEvent ctrlRight(QEvent::MouseButtonPress, at, view->mapToGlobal(at), Qt::RightButton, Qt::RightButton,
+                        Qt::ControlModifier);
+  QApplication::sendEvent(view, &ctrlRight);
+  EXPECT_TRUE(e->menus().menu("mnuSend")->isVisible());
+  EXPECT_FALSE(edit->isVisible());
+  e->menus().menu("mnuSend")->hide();
 }

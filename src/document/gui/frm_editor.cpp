@@ -9,7 +9,8 @@
 #include <QVBoxLayout>
 
 #include "document/document_table.h"
-#include "document/gui/plain_text_control.h"
+#include "document/gui/text_control_factory.h"
+#include "document/selection.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
@@ -20,7 +21,7 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  text_ = new PlainTextControl(this);
+  text_ = makeTextControl(this);
   layout->addWidget(text_->widget());
   setFocusProxy(text_->widget());
 
@@ -59,8 +60,12 @@ void frmEditor::ShowLineNum() {
                                              std::to_string(LineCount()) + " ");
 }
 
+int frmEditor::selectionLength() const {
+  return static_cast<int>(correctedSelectionLength(text_->selStart(), text_->selLength()));
+}
+
 void frmEditor::En_Dis_able() {
-  const bool selection = text_->selLength() >= 1;
+  const bool selection = selectionLength() >= 1;
   for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
     menus_->setEnabled(name, selection);
   menus_->setEnabled("mnuUndo", fileUndoable_ || text_->canUndo());
@@ -81,7 +86,7 @@ void frmEditor::onTextChanged() {
 }
 
 void frmEditor::onSelectionChanged() {
-  const int length = text_->selLength();
+  const int length = selectionLength();
   if (length >= 1) frame_.lastSelection() = LastSelection{text_->selStart(), length, text_->selText()};
   if (frame_.activeEditor() == this) En_Dis_able();
 }

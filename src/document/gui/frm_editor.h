@@ -33,6 +33,7 @@ class frmEditor : public QWidget {
 
   std::string filename() const;
   int LineCount() const { return text_->lineCount(); }
+  int selectionLength() const;  // corrected: never negative
   int currentLine() const { return text_->lineFromChar(text_->selStart()); }
   bool FileUndoable() const { return fileUndoable_; }
   void setFileUndoable(bool undoable);  // true clears the flag on every other window first

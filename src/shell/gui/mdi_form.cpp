@@ -16,7 +16,7 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
-#include "document/gui/plain_text_control.h"
+#include "document/gui/text_control_factory.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
 #include "shell/gui/menu_set.h"
@@ -100,7 +100,7 @@ void MDIForm1::registerCommands() {
   }));
   commands_.add("mnuSave", withEditor([](frmEditor& e) { e.Save(); }));
   commands_.add("mnuSaveAsTXT", withEditor([this](frmEditor& e) { saveAsPlain(e); }));
-  if (PlainTextControl(nullptr).supportsRichText())
+  if (textControlSupportsRichText())
     commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
 
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
@@ -162,7 +162,7 @@ void MDIForm1::refreshAvailability() {
 
 void MDIForm1::En_Dis_able() {
   frmEditor* editor = activeEditor();
-  const bool selection = editor && editor->rtfTextBox().selLength() >= 1;
+  const bool selection = editor && editor->selectionLength() >= 1;
   const bool undo = editor && (editor->FileUndoable() || editor->rtfTextBox().canUndo());
   for (const ToolbarButton& button : toolbarTable()) {
     if (button.isSeparator()) continue;
