@@ -1,5 +1,6 @@
 // lathwick: the G-code editor.
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 #include "shell/gui/mdi_form.h"
@@ -37,5 +38,8 @@ int main(int argc, char** argv) {
     });
   }
   if (quitAfterStart) QTimer::singleShot(0, &app, &QApplication::quit);
-  return app.exec();
+  const int code = app.exec();
+  // The frame reads the settings held by the start-up host: it must go first.
+  delete QPointer<QWidget>(frame).data();
+  return code;
 }

@@ -159,3 +159,20 @@ TEST_F(FrameTest, HelpAboutAndReadMe) {
   trigger("mnuRead");  // the document menu's own entry
   EXPECT_EQ(frame->editors().size(), 2u);
 }
+
+TEST_F(FrameTest, AutoFormatColoursEachNewOrLoadedDocumentByModes) {
+  const std::string path = files.write("a.nc", "G00 X1\r\n");
+  start();
+  std::vector<std::string> coloured;  // the document each "View Modes" acted on
+  frame->commands().add("mnuModal", [&](int index) {
+    if (index == 0) coloured.push_back(frame->activeEditor()->filename());
+  });
+  frame->refreshAvailability();
+  openFile(path);
+  EXPECT_TRUE(coloured.empty());  // auto format is off by default
+  trigger("mnuAuto");
+  EXPECT_TRUE(frame->autoFormat());
+  openFile(path);
+  trigger("mnuNew");
+  EXPECT_EQ(coloured, (std::vector<std::string>{path, "Untitled 3"}));
+}

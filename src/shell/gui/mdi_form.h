@@ -105,7 +105,8 @@ class MDIForm1 : public QMainWindow {
   void showMenusOf(frmEditor* editor);
   void onSubWindowActivated(QMdiSubWindow* window);
   void fillWindowList(QMenu* menu);
-  void openDialog(int quickFolder);  // 0: the Open command itself
+  void openDialog(int quickFolder);
+  void applyAutoFormat();  // 0: the Open command itself
   void showHelp();
   void setToolbarVisible(bool visible);
   void setStatusVisible(bool visible);

@@ -82,6 +82,7 @@ frmEditor* MDIForm1::newDocument() {
   record.fileName = name;
   recentListUpdate(name);
   editor->prepare();
+  applyAutoFormat();
   record.changed = false;
   // The script procedure "LoadDoc" is called here once macros are available.
   return editor;
@@ -111,6 +112,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     recentListUpdate(fileName);
     record.changed = false;
     editor->ShowLineNum();
+    applyAutoFormat();
     // The script procedure "LoadDoc" is called here once macros are available.
     return editor;
   } catch (const AppError& e) {
@@ -188,6 +190,11 @@ bool MDIForm1::queryClose(frmEditor& window) {
     record.changed = false;
   }
   return false;
+}
+
+void MDIForm1::applyAutoFormat() {
+  // With auto format on, a document is coloured by modes as soon as its text is in the window.
+  if (autoFormat_) commands_.run("mnuModal", 0);
 }
 
 void MDIForm1::openDialog(int quickFolder) {
