@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
   });
   const auto result = lathwick::runStartup(host);
   if (result.outcome == lathwick::StartupOutcome::EndedMissingDataFile) return 1;
+  const QPointer<lathwick::gui::MDIForm1> guard(frame);
   if (frame) frame->openStartupFile();
   if (!screenshot.isEmpty() && frame) {
     QTimer::singleShot(1500, frame, [frame, screenshot] {
@@ -40,6 +41,6 @@ int main(int argc, char** argv) {
   if (quitAfterStart) QTimer::singleShot(0, &app, &QApplication::quit);
   const int code = app.exec();
   // The frame reads the settings held by the start-up host: it must go first.
-  delete QPointer<QWidget>(frame).data();
+  delete guard.data();
   return code;
 }
