@@ -106,3 +106,18 @@ TEST_F(FrameTest, LoadAppliesTheStoredFrameSettings) {
   EXPECT_FALSE(frame->menuAction("mnuToolbar")->isChecked());
   EXPECT_EQ(frame->size(), QSize(600, 400));
 }
+
+TEST_F(FrameTest, AFailedSaveOnCloseKeepsTheWindowAndItsText) {
+  const std::string path = files.write("gone/p.nc", "G00\r\n");
+  start();
+  gui::frmEditor* e = openFile(path);
+  e->rtfTextBox().replaceSelection("N1 ");
+  std::filesystem::remove_all(files.path() / "gone");
+  dialogs.answers = {Answer::Yes};
+  trigger("mnuClose");
+  ASSERT_EQ(dialogs.messages.size(), 2u);
+  EXPECT_NE(dialogs.messages[1].text.find("File not saved."), std::string::npos);
+  ASSERT_EQ(frame->editors().size(), 1u);
+  EXPECT_TRUE(e->record().changed);
+  EXPECT_EQ(e->rtfTextBox().text(), "N1 G00\r\n");
+}

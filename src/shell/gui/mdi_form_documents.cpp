@@ -186,7 +186,8 @@ bool MDIForm1::queryClose(frmEditor& window) {
     name = dialogs_->chooseFile(request).value_or(std::string());
   }
   if (!name.empty()) {
-    SaveFile(window, name);
+    // A save that fails keeps the window open: closing it would throw the text away.
+    if (!SaveFile(window, name)) return true;
     record.changed = false;
   }
   return false;
