@@ -43,11 +43,8 @@ void frmEditor::cutLine() {
   const int length = text_->lineLength(line);
   text_->setSelection(first, length);
   cutLine_ = text_->selText();
-  // The line's text and its break go together: CR LF, or a lone CR or LF.
-  const std::string all = text_->text();
-  int breakLength = 0;
-  const auto end = static_cast<std::size_t>(first + length);
-  if (end < all.size()) breakLength = (all[end] == '\r' && end + 1 < all.size() && all[end + 1] == '\n') ? 2 : 1;
+  // The line's text and its break go together (CR LF, or a lone CR or LF; none on the last line).
+  const int breakLength = line + 1 < text_->lineCount() ? text_->lineIndex(line + 1) - (first + length) : 0;
   text_->setSelection(first, length + breakLength);
   text_->replaceSelection({});
   ShowLineNum();

@@ -77,8 +77,9 @@ std::string PlainTextControl::selText() const {
   const int start = selStart();
   const int length = selLength();
   if (length <= 0) return {};
-  const std::string all = text();
-  return all.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+  // Straight from the control's buffer: a long program is not copied for every selection.
+  const auto* bytes = reinterpret_cast<const char*>(send(Sci::SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
+  return bytes ? std::string(bytes, static_cast<std::size_t>(length)) : std::string();
 }
 
 void PlainTextControl::setSelection(int start, int length) {
