@@ -125,3 +125,24 @@ TEST_F(FrameTest, RightButtonOpensTheEditMenuAndCtrlRightTheSendToMenu) {
   EXPECT_FALSE(edit->isVisible());
   e->menus().menu("mnuSend")->hide();
 }
+
+TEST_F(FrameTest, LockKeyAndInsertPanelsFollowTheKeyboard) {
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", lines(2)));
+  QWidget* text = e->rtfTextBox().widget();
+  auto& panels = frame->statusPanels();
+  EXPECT_TRUE(panels.panel("Ins")->isEnabled());
+  lathwick::test::keyClick(text, Qt::Key_Insert);  // overtype on
+  EXPECT_FALSE(panels.panel("Ins")->isEnabled());
+  lathwick::test::keyClick(text, Qt::Key_Insert);
+  EXPECT_TRUE(panels.panel("Ins")->isEnabled());
+  // The lock states come with each key event (X11: Lock = 0x02, Mod2 = 0x10 for Num Lock).
+  QKeyEvent capsOn(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier, 0, 0, 0x02);
+  QApplication::sendEvent(text, &capsOn);
+  EXPECT_TRUE(panels.panel("Caps")->isEnabled());
+  EXPECT_FALSE(panels.panel("Num")->isEnabled());
+  QKeyEvent numOn(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier, 0, 0, 0x10);
+  QApplication::sendEvent(text, &numOn);
+  EXPECT_FALSE(panels.panel("Caps")->isEnabled());
+  EXPECT_TRUE(panels.panel("Num")->isEnabled());
+}
