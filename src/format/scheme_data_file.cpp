@@ -3,9 +3,11 @@
 #include <cstdio>
 #include <memory>
 
+#include "format/rich_text_builder.h"
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/file_system.h"
+#include "shell/startup.h"
 
 namespace lathwick {
 
@@ -64,6 +66,14 @@ SchemeRecord readSchemeRecord(const std::string& dataFile, long n) {
   const File f = openForReading(dataFile);
   return readOpen(f.get(), n);
 }
+
+SchemeRecord loadScheme(const std::string& dataFile, long n) {
+  SchemeRecord r = readSchemeRecord(dataFile, n);
+  buildSchemeFragments(r);
+  return r;
+}
+
+std::string bundledDataFilePath() { return executableFolder() + "/" + kDataFileName; }
 
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record) {
   std::string bytes;

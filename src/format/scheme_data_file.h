@@ -46,6 +46,12 @@ SchemeRecord readSchemeRecord(const std::string& dataFile, long n);
 // Writes the record as record n (1 to count + 1), rewriting the file through a temporary file.
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record);
 
+// Record n with its fragments rebuilt, ready to be the current scheme.
+SchemeRecord loadScheme(const std::string& dataFile, long n);
+
+// "Lathwick.dat" beside the running executable: the bundled data file of the batch tool.
+std::string bundledDataFilePath();
+
 // Copies every record except n into tempFile and gives it the data file's name. Nothing changes
 // when either file cannot be opened (DataFileProblem is thrown).
 void removeSchemeRecord(const std::string& dataFile, const std::string& tempFile, long n);
