@@ -94,11 +94,17 @@ ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const
     std::string text;
     const std::string firstStart = frame.lineStart(true);
     const std::string laterStart = frame.lineStart(false);
+    // Lines are gathered into blocks so that the writer sees few, large writes.
+    constexpr std::size_t kBlock = 1 << 18;
+    text.reserve(kBlock + 4096);
     while (reader.next(line)) {
-      text.assign(result.linesWritten == 0 ? firstStart : laterStart);
+      text += result.linesWritten == 0 ? firstStart : laterStart;
       colorizer.colorize(line, text);
       text += "\r\n";
-      out.write(text);
+      if (text.size() >= kBlock) {
+        out.write(text);
+        text.clear();
+      }
       ++result.linesWritten;
       if (progress.lineWritten(result.linesWritten)) {
         monitor.clearCancel();
@@ -108,6 +114,7 @@ ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const
         return result;  // the writer is dropped: the output file is left as it was
       }
     }
+    out.write(text);
     out.writeLine(frame.trailer);
     out.commit();
     result.outcome = ColorizeOutcome::Done;

@@ -1,7 +1,5 @@
 #include "format/g_words.h"
 
-#include <cstring>
-
 namespace lathwick {
 
 std::size_t numberEnd(std::size_t start, std::string_view line, std::string_view word) {
@@ -15,9 +13,7 @@ std::size_t numberEnd(std::size_t start, std::string_view line, std::string_view
 }
 
 void GWordFinder::normalise(std::string_view line) {
-  if (cached_ && line.size() == lastLine_.size() && std::memcmp(line.data(), lastLine_.data(), line.size()) == 0)
-    return;
-  lastLine_.assign(line);
+  if (cached_) return;
   normal_.assign(2 * line.size(), ' ');
   std::size_t letters = 0;
   for (std::size_t i = 0; i < line.size(); ++i) {

@@ -24,16 +24,17 @@ std::size_t numberEnd(std::size_t start, std::string_view line, std::string_view
 // Finds whole G words such as "G01" in an upper-case line. A word counts only when it stands
 // whole in the line's normal form (letters preceded by a blank, other characters blanked), but
 // the position returned is that of the first occurrence of the text in the line, which may lie
-// inside another word ("G10 G1" gives G1 at position 1). The normal form is made once per line.
+// inside another word ("G10 G1" gives G1 at position 1). The normal form is made once per line
+// and kept for the following tests until reset() says a new line has come.
 class GWordFinder {
  public:
+  void reset() { cached_ = false; }
   // Returns the position, or 0; matchLength() is then the length of the form that matched.
   std::size_t find(std::string_view upperLine, std::string_view longForm, std::string_view shortForm);
   std::size_t matchLength() const { return matchLength_; }
 
  private:
   void normalise(std::string_view upperLine);
-  std::string lastLine_;
   std::string normal_;
   std::string needle_;
   bool cached_ = false;

@@ -50,10 +50,15 @@ LineColorizer::LineColorizer(const PassFrame& frame, ColorizeView view, std::vec
 void LineColorizer::colorize(std::string_view line, std::string& out) {
   const std::size_t len = line.size();
   upper_.resize(len);
+  present_.fill(false);
   for (std::size_t i = 0; i < len; ++i) {
     const char c = line[i];
-    upper_[i] = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+    const char u = (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+    upper_[i] = u;
+    present_[static_cast<unsigned char>(c)] = true;
+    present_[static_cast<unsigned char>(u)] = true;
   }
+  finder_.reset();
   codes_.assign(len + 2, kNoCode);
   markBlockSkipOrWords(line);
   markComment();
@@ -69,7 +74,7 @@ void LineColorizer::markBlockSkipOrWords(std::string_view line) {
     return;  // no G words, and the modal style stays as it is
   }
   if (view_ == ColorizeView::Modes) put(1, static_cast<std::uint8_t>(modal_));
-  if (upper_.find('G') != std::string::npos) markGWords();
+  if (occurs('G')) markGWords();
   if (view_ == ColorizeView::Codes) {
     markPositions();
     markCodeTexts(line);
@@ -103,6 +108,10 @@ void LineColorizer::markGWords() {
 // position, so in a line with a G91 word it begins after that word.
 void LineColorizer::markPositions() {
   for (const AxisRule& axis : kAxisRules) {
+    if (!occurs(axis.letter)) {
+      scan_ = 0;  // what the search would have left
+      continue;
+    }
     const std::string_view letter(&axis.letter, 1);
     scan_ = inStr(scan_ + 1, upper_, letter);
     while (scan_ > 0) {
@@ -117,6 +126,10 @@ void LineColorizer::markPositions() {
 // Set 1 code texts, searched case-sensitively in the line as read.
 void LineColorizer::markCodeTexts(std::string_view line) {
   for (const MarkerEntry& m : markers_) {
+    if (!occurs(m.text.front())) {
+      scan_ = 0;  // what the search would have left
+      continue;
+    }
     const auto code = static_cast<std::uint8_t>(kFirstCodeStyle + m.style);
     if (isHashMarker(m.text)) {
       const std::string_view text(m.text);
@@ -152,7 +165,7 @@ void LineColorizer::markCodeTexts(std::string_view line) {
 
 // Only the first comment of a line is marked, and it clears every mark inside it.
 void LineColorizer::markComment() {
-  if (!comment_.active) return;
+  if (!comment_.active || !occurs(comment_.open)) return;
   const std::size_t p = inStr(1, upper_, std::string_view(&comment_.open, 1));
   if (p == 0) return;
   put(p, kCommentStyle);

@@ -3,6 +3,7 @@
 // G words, X/Y/Z words, code markers, the first comment) and writes the line as rich text. The
 // modal style carries from line to line. Buffers are reused, so a long run allocates nothing
 // per line once they have grown.
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,6 +31,7 @@ class LineColorizer {
   void markPositions();
   void markCodeTexts(std::string_view line);
   void markComment();
+  bool occurs(char c) const { return present_[static_cast<unsigned char>(c)]; }
   void emit(std::string_view line, std::string& out) const;
 
   // 1-based code slots 1..length+1 live at codes_[1..length+1].
@@ -53,6 +55,7 @@ class LineColorizer {
   GWordFinder finder_;
   std::string upper_;
   std::vector<std::uint8_t> codes_;
+  std::array<bool, 256> present_{};  // which bytes occur in the line (as read or upper-cased)
   std::size_t scan_ = 0;  // the one scan position shared by the searches of a line
 };
 
