@@ -65,16 +65,6 @@ TEST(ColorizerRun, WritesHeaderParagraphsAndTrailerWithCrLf) {
   EXPECT_EQ(readBytes(dir.file("e.rtf")), f.header + "\r\n\\par}\r\n");
 }
 
-TEST(ColorizerRun, CommentOverrideReplacesTheSchemesCommentText) {
-  TempDir dir;
-  const std::string in = dir.write("in.txt", "X1 ;X2\r\n");
-  const std::string semicolon = ";";
-  colorizeFile(scheme(), ColorizeView::Codes, in, dir.file("out.rtf"), silentMonitor(), &semicolon);
-  const PassFrame f = makePassFrame(scheme());
-  const std::string out = readBytes(dir.file("out.rtf"));
-  EXPECT_NE(out.find(f.attributes[0][kCommentStyle] + " ;X2"), std::string::npos) << out;
-}
-
 TEST(ColorizerRun, RefusesBareLineFeedsAndIgnoresMissingInput) {
   TempDir dir;
   const std::string out = dir.file("TEMP3.TXT");
