@@ -88,7 +88,7 @@ ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const
   try {
     LineColorizer colorizer(frame, view, buildMarkerList(scheme));
     LineReader reader(inputPath);
-    AtomicFileWriter out(outputPath);
+    AtomicFileWriter out(outputPath, Durability::Scratch);
     out.writeLine(frame.header);
     std::string line;
     std::string text;
