@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
@@ -43,9 +45,13 @@ DocumentRecord& frmEditor::record() const { return frame_.documents().record(tag
 std::string frmEditor::filename() const { return record().fileName; }
 
 void frmEditor::prepare() {
-  // Auto format colours the document once the formatting engine is present; until then the
-  // window simply comes up empty and ready for its text.
+  // The window comes up, in front, empty and ready for its text; auto format runs once the text
+  // is in (the frame sees to it).
   show();
+  if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
+    sub->show();
+    if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
+  }
   text_->widget()->setFocus();
 }
 
