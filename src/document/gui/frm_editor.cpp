@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "document/document_table.h"
+#include "format/scheme_data_file.h"
 #include "document/gui/text_control_factory.h"
 #include "document/selection.h"
 #include "shell/gui/mdi_form.h"
@@ -102,6 +103,39 @@ void frmEditor::Save() {
     frame_.saveAsPlain(*this);
   else
     frame_.SaveFile(*this, record().fileName);
+}
+
+void frmEditor::LoadMenuArray() {
+  SchemeList list;
+  try {
+    list = loadSchemeList(frame_.values().DataFilePath, record().scheme);
+  } catch (const AppError&) {
+    list.dataFileProblem = true;
+  }
+  if (list.dataFileProblem) frame_.reportDataFileProblem();
+  if (list.entries.empty()) return;  // the menu keeps its single placeholder entry
+  std::vector<std::string> captions;
+  for (const SchemeListEntry& entry : list.entries) captions.push_back(entry.name);
+  const auto actions = menus_->setNumberedEntries("mnuColorSchemes", "mnuScheme", 1, captions);
+  for (std::size_t i = 0; i < actions.size(); ++i) {
+    actions[i]->setCheckable(true);
+    actions[i]->setChecked(list.entries[i].record == record().scheme);
+  }
+}
+
+std::string frmEditor::Scheme() const {
+  QAction* entry = menus_->action("mnuScheme", frame_.currentScheme());
+  return entry ? entry->text().toLatin1().toStdString() : std::string();
+}
+
+void frmEditor::setScheme(const std::string& name) {
+  for (QAction* action : menus_->allActions()) {
+    const QString object = action->objectName();
+    if (!object.startsWith(QStringLiteral("mnuScheme(")) || action->text().toLatin1().toStdString() != name) continue;
+    const int index = object.mid(10, object.size() - 11).toInt();
+    frame_.commands().run("mnuScheme", index);
+    return;
+  }
 }
 
 void frmEditor::closeEvent(QCloseEvent* event) {

@@ -43,6 +43,13 @@ class frmEditor : public QWidget {
   void Form_Activate();
   void Save();
 
+  // Fills the scheme menu from the scheme data file, the document's own scheme checked.
+  void LoadMenuArray();
+  // The caption of the scheme menu entry of the current scheme ("" when there is none).
+  std::string Scheme() const;
+  // Chooses the scheme menu entry captioned `name` (nothing happens for an unknown name).
+  void setScheme(const std::string& name);
+
   // Editing commands (the Edit menu and the toolbar)
   void Undo();
   void Cut();

@@ -17,6 +17,7 @@
 
 #include "document/gui/frm_editor.h"
 #include "document/gui/text_control_factory.h"
+#include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
 #include "shell/gui/menu_set.h"
@@ -292,6 +293,12 @@ void MDIForm1::syncSettingChecks() {
       action->setChecked(on);
     }
   }
+}
+
+void MDIForm1::reportDataFileProblem() {
+  if (dataFileProblemShown_) return;
+  dataFileProblemShown_ = true;
+  dialogs_->message(kDataFileProblemMessage, kDataFileProblemTitle, Buttons::Ok, Icon::Exclamation);
 }
 
 void MDIForm1::showHelp() {

@@ -88,6 +88,9 @@ class MDIForm1 : public QMainWindow {
   void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
   Dialogs& dialogs() { return *dialogs_; }
 
+  // The scheme data file could not be read: said once, not for every window.
+  void reportDataFileProblem();
+
   void rebuildRecentMenus();
   void recentListUpdate(const std::string& name);
 
@@ -137,6 +140,7 @@ class MDIForm1 : public QMainWindow {
   std::string lastPath_;
   bool autoFormat_ = false;
   std::int16_t currentScheme_ = 1;
+  bool dataFileProblemShown_ = false;
   bool capsLock_ = false, numLock_ = false;
 };
 

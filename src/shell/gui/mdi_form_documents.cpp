@@ -55,6 +55,8 @@ frmEditor* MDIForm1::createWindow(int index) {
   const QSize room = mdi_->viewport()->size();
   sub->resize(std::max(480, room.width() * 2 / 3), std::max(320, room.height() * 2 / 3));
   windows_[index] = editor;
+  documents_.record(index).scheme = currentScheme_;
+  editor->LoadMenuArray();
   connect(editor, &QObject::destroyed, this, [this, index] { forgetWindow(index); });
   return editor;
 }

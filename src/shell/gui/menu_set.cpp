@@ -69,6 +69,38 @@ QAction* MenuSet::action(const std::string& name, int index) const {
   return it == actions_.end() ? nullptr : it->second;
 }
 
+std::vector<QAction*> MenuSet::setNumberedEntries(const std::string& menuName, const std::string& name, int first,
+                                                 const std::vector<std::string>& captions) {
+  QMenu* parent = menu(menuName);
+  if (!parent) return {};
+  for (auto it = actions_.begin(); it != actions_.end();) {
+    if (it->first.name != name) {
+      ++it;
+      continue;
+    }
+    QAction* old = it->second;
+    parent->removeAction(old);
+    std::erase(all_, old);
+    wanted_.erase(old);
+    old->deleteLater();
+    it = actions_.erase(it);
+  }
+  std::vector<QAction*> added;
+  int index = first;
+  for (const std::string& caption : captions) {
+    QAction* action = parent->addAction(QString::fromLatin1(caption.c_str()));
+    action->setObjectName(actionObjectName(name, index));
+    QObject::connect(action, &QAction::triggered, action, [this, name, index] { commands_.run(name, index); });
+    actions_[Key{name, index}] = action;
+    all_.push_back(action);
+    wanted_[action] = true;
+    added.push_back(action);
+    ++index;
+  }
+  refreshAvailability();
+  return added;
+}
+
 void MenuSet::setEnabled(const std::string& name, bool enabled, int index) {
   QAction* a = action(name, index);
   if (!a) return;

@@ -32,6 +32,10 @@ class MenuSet {
 
   // Enables an entry as far as its command exists: a missing command keeps it disabled.
   void setEnabled(const std::string& name, bool enabled, int index = -1);
+  // Replaces the numbered entries `name` of menu `menuName` by one entry per caption, numbered
+  // from `first` (the scheme menu, filled from the scheme list). Returns the new actions.
+  std::vector<QAction*> setNumberedEntries(const std::string& menuName, const std::string& name, int first,
+                                           const std::vector<std::string>& captions);
   // Re-reads which commands exist (after a later part registers its commands).
   void refreshAvailability();
 

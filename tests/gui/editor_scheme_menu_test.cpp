@@ -1,0 +1,49 @@
+// A document window's scheme menu lists the schemes of the data file.
+#include <filesystem>
+
+#include "format/scheme_data_file.h"
+#include "frame_fixture.h"
+#include "shell/gui/menu_set.h"
+
+using namespace lathwick;
+using lathwick::test::FrameTest;
+
+TEST_F(FrameTest, SchemeMenuListsTheSchemesWithTheDocumentsOwnChecked) {
+  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
+  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
+  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  const SchemeList list = loadSchemeList(values.DataFilePath, 1);
+  ASSERT_GE(list.entries.size(), 2u);
+  values.CurrentScheme = 2;
+  start();
+  trigger("mnuNew");
+  gui::frmEditor* e = frame->activeEditor();
+  for (std::size_t i = 0; i < list.entries.size(); ++i) {
+    QAction* entry = frame->menuAction("mnuScheme", static_cast<int>(i) + 1);
+    ASSERT_NE(entry, nullptr) << i;
+    EXPECT_EQ(entry->text().toStdString(), list.entries[i].name);
+    EXPECT_EQ(entry->isChecked(), i == 1) << i;
+    EXPECT_FALSE(entry->isEnabled());  // applying a scheme needs the colorizer in the window
+  }
+  EXPECT_EQ(e->Scheme(), list.entries[1].name);
+
+  std::vector<int> chosen;
+  frame->commands().add("mnuScheme", [&](int index) { chosen.push_back(index); });
+  frame->refreshAvailability();
+  EXPECT_TRUE(frame->menuAction("mnuScheme", 1)->isEnabled());
+  e->setScheme(list.entries[0].name);
+  e->setScheme("no such scheme");
+  EXPECT_EQ(chosen, std::vector<int>{1});
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(FrameTest, AnUnreadableDataFileIsReportedOnce) {
+  std::filesystem::remove(values.DataFilePath);
+  std::filesystem::create_directory(values.DataFilePath);  // there, but not a file
+  start();
+  trigger("mnuNew");
+  trigger("mnuNew");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].caption, kDataFileProblemTitle);
+  EXPECT_EQ(frame->menuAction("mnuScheme", 1)->text().toStdString(), "Scheme");
+}
