@@ -26,6 +26,8 @@ TEST_F(FrameTest, SchemeMenuListsTheSchemesWithTheDocumentsOwnChecked) {
     EXPECT_FALSE(entry->isEnabled());  // applying a scheme needs the colorizer in the window
   }
   EXPECT_EQ(e->Scheme(), list.entries[1].name);
+  // Activation puts the scheme's page colour behind the text.
+  EXPECT_EQ(e->rtfTextBox().background(), loadScheme(values.DataFilePath, 2).backColour & 0xFFFFFF);
 
   std::vector<int> chosen;
   frame->commands().add("mnuScheme", [&](int index) { chosen.push_back(index); });

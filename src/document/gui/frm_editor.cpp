@@ -82,6 +82,8 @@ void frmEditor::En_Dis_able() {
 void frmEditor::Form_Activate() {
   ShowLineNum();
   frame_.setCurrentScheme(record().scheme);
+  if (const SchemeRecord* scheme = frame_.currentSchemeRecord())
+    text_->setColours(scheme->backColour, scheme->style(0, kOtherTextStyle).colour);
   frame_.statusPanels().setOverwrite(text_->overwriteMode());
   En_Dis_able();
 }

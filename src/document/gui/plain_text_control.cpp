@@ -149,3 +149,20 @@ void PlainTextControl::deleteForward() {
 bool PlainTextControl::overwriteMode() const { return send(Sci::SCI_GETOVERTYPE) != 0; }
 
 }  // namespace lathwick::gui
+
+namespace lathwick::gui {
+
+void PlainTextControl::setColours(std::int32_t background, std::int32_t text) {
+  // Scintilla keeps colours in the same red-lowest byte order. Plain text is all in style 0.
+  for (unsigned long style : {static_cast<unsigned long>(Sci::STYLE_DEFAULT), 0ul}) {
+    send(Sci::SCI_STYLESETBACK, style, background & 0xFFFFFF);
+    send(Sci::SCI_STYLESETFORE, style, text & 0xFFFFFF);
+  }
+  send(Sci::SCI_SETCARETFORE, static_cast<unsigned long>(text & 0xFFFFFF));
+}
+
+std::int32_t PlainTextControl::background() const {
+  return static_cast<std::int32_t>(send(Sci::SCI_STYLEGETBACK, 0));
+}
+
+}  // namespace lathwick::gui

@@ -37,6 +37,8 @@ class PlainTextControl : public TextControl {
   void paste() override;
   void deleteForward() override;
   bool overwriteMode() const override;
+  void setColours(std::int32_t background, std::int32_t text) override;
+  std::int32_t background() const override;
 
  private:
   long send(unsigned int message, unsigned long wParam = 0, long lParam = 0) const;

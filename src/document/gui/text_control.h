@@ -4,6 +4,7 @@
 // control's own clipboard and undo. The window talks to the control only through this class,
 // so the control behind it can be exchanged without touching the window.
 #include <QObject>
+#include <cstdint>
 #include <string>
 
 class QWidget;
@@ -50,6 +51,10 @@ class TextControl : public QObject {
   virtual void paste() = 0;
   virtual void deleteForward() = 0;  // the Delete key
   virtual bool overwriteMode() const = 0;
+  // The page colour behind the text and the colour of unformatted text, each red in the lowest
+  // byte, then green, then blue.
+  virtual void setColours(std::int32_t background, std::int32_t text) = 0;
+  virtual std::int32_t background() const = 0;
 
  signals:
   void textChanged();        // by the user or by a command, not by loadFile

@@ -295,6 +295,19 @@ void MDIForm1::syncSettingChecks() {
   }
 }
 
+const SchemeRecord* MDIForm1::currentSchemeRecord() {
+  if (!schemeRecord_ || schemeRecordNumber_ != currentScheme_) {
+    schemeRecord_.reset();
+    schemeRecordNumber_ = currentScheme_;
+    try {
+      schemeRecord_ = loadScheme(values_.DataFilePath, currentScheme_);
+    } catch (const std::exception&) {
+      // Reported where the scheme list is read; the window keeps its colours.
+    }
+  }
+  return schemeRecord_ ? &*schemeRecord_ : nullptr;
+}
+
 void MDIForm1::reportDataFileProblem() {
   if (dataFileProblemShown_) return;
   dataFileProblemShown_ = true;

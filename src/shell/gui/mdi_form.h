@@ -6,10 +6,12 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/document_table.h"
+#include "format/scheme_record.h"
 #include "shell/command_dispatch.h"
 #include "shell/gui/dialogs.h"
 #include "shell/settings_table.h"
@@ -88,6 +90,10 @@ class MDIForm1 : public QMainWindow {
   void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
   Dialogs& dialogs() { return *dialogs_; }
 
+  // The record of the current scheme, read from the data file when the number changes; nothing
+  // when it cannot be read.
+  const SchemeRecord* currentSchemeRecord();
+
   // The scheme data file could not be read: said once, not for every window.
   void reportDataFileProblem();
 
@@ -141,6 +147,8 @@ class MDIForm1 : public QMainWindow {
   bool autoFormat_ = false;
   std::int16_t currentScheme_ = 1;
   bool dataFileProblemShown_ = false;
+  std::optional<SchemeRecord> schemeRecord_;
+  std::int16_t schemeRecordNumber_ = 0;
   bool capsLock_ = false, numLock_ = false;
 };
 
