@@ -71,14 +71,17 @@ TEST_F(FrameTest, FrameCloseAsksEachDocumentAndStopsOnCancel) {
   start();
   trigger("mnuNew");
   frame->activeEditor()->rtfTextBox().replaceSelection("G01");
+  trigger("mnuNew");
+  frame->activeEditor()->rtfTextBox().replaceSelection("G02");
   dialogs.answers = {Answer::Cancel};
   EXPECT_FALSE(frame->close());
-  EXPECT_EQ(frame->editors().size(), 1u);
+  EXPECT_EQ(dialogs.messages.size(), 1u);  // the second document was not asked
+  EXPECT_EQ(frame->editors().size(), 2u);
   EXPECT_TRUE(std::filesystem::exists(app.file("UNDO.RTF")));
   EXPECT_FALSE(settings.has("Startup", "Toolbar"));
 
   trigger("mnuToolbar");  // hide the toolbar, so the stored state is not the default
-  dialogs.answers = {Answer::No};
+  dialogs.answers = {Answer::No, Answer::No};
   EXPECT_TRUE(frame->close());
   EXPECT_TRUE(frame->editors().empty());
   for (const char* name : {"TEMP1.TXT", "TEMP2.TXT", "TEMP3.TXT", "Grafx.TXT", "PrintRTF.RTF", "UNDO.RTF",

@@ -412,11 +412,13 @@ void MDIForm1::deleteWorkFiles() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-  // Every document is asked first; one that stays open keeps the frame open too.
-  mdi_->closeAllSubWindows();
-  if (!mdi_->subWindowList().isEmpty()) {
-    event->ignore();
-    return;
+  // Every document is asked first; the first one that stays open keeps the frame open too, and
+  // the documents after it are not asked.
+  for (QMdiSubWindow* sub : mdi_->subWindowList()) {
+    if (!sub->close()) {
+      event->ignore();
+      return;
+    }
   }
   try {
     writeFrameSettings(settings_, currentFrameSettings());
