@@ -13,7 +13,7 @@
 #include "document/document_table.h"
 #include "format/scheme_data_file.h"
 #include "document/gui/text_control_factory.h"
-#include "document/selection.h"
+#include "document/selection_length.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
