@@ -4,6 +4,7 @@
 #include "document/document_table.h"
 #include "document/paths.h"
 #include "platform/bytes.h"
+#include "document/gui/text_control_factory.h"
 #include "frame_fixture.h"
 #include "shell/gui/menu_set.h"
 #include "support/temp_dir.h"
@@ -56,14 +57,39 @@ TEST_F(FrameTest, EmptyOrMissingFilesOpenNoWindow) {
   EXPECT_TRUE(frame->documents().openIndexes().empty());
 }
 
-TEST_F(FrameTest, RichTextFilesAreRefusedWithoutLeavingAnEmptyWindow) {
-  const std::string path = files.write("x.rtf", "{\\rtf1 x}");
+TEST_F(FrameTest, RichTextFilesAreReadAsRichTextOrRefusedWithoutAnEmptyWindow) {
+  const std::string path = files.write("x.rtf", "{\\rtf1\\ansi G01 X5\\par}");
   start();
-  EXPECT_EQ(openFile(path), nullptr);
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_TRUE(frame->editors().empty());
-  // The ".RTF" rule looks at the end of the name only.
-  EXPECT_NE(openFile(files.write("x.rtf.nc", "{\\rtf1 x}")), nullptr);
+  gui::frmEditor* e = openFile(path);
+  if (gui::textControlSupportsRichText()) {
+    ASSERT_NE(e, nullptr);
+    EXPECT_EQ(e->rtfTextBox().text().substr(0, 6), "G01 X5");
+  } else {
+    EXPECT_EQ(e, nullptr);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_TRUE(frame->editors().empty());
+  }
+  // The ".RTF" rule looks at the end of the name only: this one is plain text.
+  gui::frmEditor* plain = openFile(files.write("x.rtf.nc", "{\\rtf1 x}"));
+  ASSERT_NE(plain, nullptr);
+  EXPECT_EQ(plain->rtfTextBox().text(), "{\\rtf1 x}");
+}
+
+TEST_F(FrameTest, SaveAsRichTextWritesRichTextThatLoadsBack) {
+  if (!gui::textControlSupportsRichText()) GTEST_SKIP() << "the text control holds plain text only";
+  const std::string path = files.write("part.nc", "G00 X1\r\nG01 Y2\r\n");
+  start();
+  gui::frmEditor* e = openFile(path);
+  dialogs.files.push_back(files.file("part.RTF"));
+  trigger("mnuSaveRTF");
+  EXPECT_EQ(dialogs.requests.back().title, "Save As Rich Text File");
+  EXPECT_EQ(dialogs.requests.back().fileName, "part.nc.RTF");  // "nc" is not a three-letter extension
+  const std::string saved = lathwick::test::readBytes(files.file("part.RTF"));
+  EXPECT_EQ(saved.substr(0, 5), "{\\rtf");
+  EXPECT_EQ(e->filename(), files.file("part.RTF"));
+  gui::frmEditor* again = openFile(files.file("part.RTF"));
+  ASSERT_NE(again, nullptr);
+  EXPECT_EQ(again->rtfTextBox().text().substr(0, 14), "G00 X1\r\nG01 Y2");
 }
 
 TEST_F(FrameTest, SaveAsWritesThePlainTextAndUpperCasesTheCaption) {

@@ -1,19 +1,15 @@
 #include "document/gui/plain_text_control.h"
 
-#include <Qsci/qscicommand.h>
-#include <Qsci/qscicommandset.h>
 #include <Qsci/qsciscintilla.h>
 
-#include <QKeySequence>
-
 #include <QFont>
-#include <algorithm>
 #include <QFontDatabase>
+#include <algorithm>
 
+#include "document/gui/menu_keys.h"
 #include "platform/atomic_file.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
-#include "shell/menu_tables.h"
 
 namespace lathwick::gui {
 
@@ -34,17 +30,7 @@ PlainTextControl::PlainTextControl(QWidget* parent) : TextControl(parent), edito
   send(Sci::SCI_SETSCROLLWIDTH, 1);
   send(Sci::SCI_SETSCROLLWIDTHTRACKING, 1);
 
-  // The document menu's keys belong to the menu: the control lets go of any it binds itself
-  // (Ctrl+A, Ctrl+D and Ctrl+L among them).
-  QsciCommandSet* keys = editor_->standardCommands();
-  for (const MenuEntry& entry : documentMenuTable()) {
-    if (entry.shortcut[0] == '\0') continue;
-    const int key = QKeySequence(QString::fromLatin1(entry.shortcut))[0].toCombined();
-    for (QsciCommand* command : keys->commands()) {
-      if (command->key() == key) command->setKey(0);
-      if (command->alternateKey() == key) command->setAlternateKey(0);
-    }
-  }
+  leaveMenuKeysToTheMenu(*editor_);
 
   connect(editor_, &QsciScintilla::textChanged, this, [this] {
     if (!loading_) emit textChanged();

@@ -57,7 +57,9 @@ class TextControl : public QObject {
   virtual std::int32_t background() const = 0;
 
  signals:
-  void textChanged();        // by the user or by a command, not by loadFile
+  // An edit by the user or by a command (not loadFile). It may come just before the edit is
+  // made: a slot reads no text and changes none.
+  void textChanged();
   void selectionChanged();   // the caret moved or the selection changed
   void overwriteToggled(bool overwrite);
 };
