@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QUrl>
+#include <algorithm>
+#include <vector>
 
 namespace lathwick::gui {
 namespace {
@@ -11,20 +13,30 @@ QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
 }  // namespace
 
 std::string qtFilterOf(const std::string& filter) {
-  // Pairs of description|pattern; the dialog shows the descriptions, which carry the patterns.
-  std::string out;
+  // Pairs of description|pattern. The dialog filters by the patterns written in brackets after
+  // the description, and there "*.*" would hide names without an extension: it becomes "*".
+  std::vector<std::string> parts;
   std::size_t start = 0;
-  bool description = true;
-  while (start <= filter.size()) {
-    const std::size_t bar = filter.find('|', start);
-    const std::string part = filter.substr(start, bar == std::string::npos ? std::string::npos : bar - start);
-    if (description) {
-      if (!out.empty()) out += ";;";
-      out += part;
+  for (std::size_t bar; (bar = filter.find('|', start)) != std::string::npos; start = bar + 1)
+    parts.push_back(filter.substr(start, bar - start));
+  parts.push_back(filter.substr(start));
+  std::string out;
+  for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
+    std::string description = parts[i];
+    if (const auto open = description.rfind(" ("); open != std::string::npos && description.back() == ')')
+      description.erase(open);
+    std::string patterns;
+    std::size_t from = 0;
+    const std::string& list = parts[i + 1];
+    while (from <= list.size()) {
+      const std::size_t semi = std::min(list.find(';', from), list.size());
+      std::string one = list.substr(from, semi - from);
+      if (one == "*.*") one = "*";
+      if (!one.empty()) patterns += (patterns.empty() ? "" : " ") + one;
+      from = semi + 1;
     }
-    description = !description;
-    if (bar == std::string::npos) break;
-    start = bar + 1;
+    if (!out.empty()) out += ";;";
+    out += description + " (" + patterns + ")";
   }
   return out;
 }

@@ -42,7 +42,8 @@ class QtDialogs : public Dialogs {
   QWidget* parent_;
 };
 
-// "Text (*.*)|*.*|Text (*.TXT)|*.TXT" -> "Text (*.*);;Text (*.TXT)" (the dialog's own form).
+// "Text (*.*)|*.*|Text (*.TXT)|*.TXT" -> "Text (*);;Text (*.TXT)": the dialog's own form, in
+// which "*.*" must read "*" to show names without an extension.
 std::string qtFilterOf(const std::string& filter);
 
 }  // namespace lathwick::gui
