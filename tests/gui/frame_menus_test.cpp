@@ -113,3 +113,37 @@ TEST_F(FrameTest, ToolbarHasItsButtonsInOrderWithTheQuickFolders) {
   EXPECT_FALSE(frame->toolButton("Save")->isEnabled());
   EXPECT_FALSE(frame->toolButton("Paste")->isEnabled());
 }
+
+namespace {
+// The visible entries of a menu, submenus in brackets, separators as "-".
+std::string layoutOf(QMenu* menu) {
+  std::string out;
+  for (QAction* a : menu->actions()) {
+    if (!a->isVisible()) continue;
+    if (!out.empty()) out += " | ";
+    if (a->isSeparator())
+      out += "-";
+    else if (a->menu())
+      out += a->text().toStdString() + " [" + layoutOf(a->menu()) + "]";
+    else
+      out += a->text().toStdString();
+  }
+  return out;
+}
+}  // namespace
+
+TEST_F(FrameTest, FileMenusAreLaidOutAsTabulated) {
+  start();
+  EXPECT_EQ(layoutOf(frame->frameMenus().menu("mnuFile")), "&New | &Open | - | - | E&xit");
+  trigger("mnuNew");
+  QMenu* file = frame->activeEditor()->menus().menu("mnuFile");
+  EXPECT_EQ(layoutOf(file),
+            "&New | &Open | &Close | &Save | Save &As [Save &As *.* | Save As &RTF] | - | "
+            "&Print [Print Plain Text | Print &Rich Text] | - | Send &To [Empty] | - | E&xit");
+  EXPECT_EQ(layoutOf(frame->activeEditor()->menus().menu("mnuEdit")),
+            "&Undo\tCtrl+Z | - | Cu&t\tCtrl+X | Cut &Line | Cut To &End | &Copy\tCtrl+C | &Paste\tCtrl+V | "
+            "Paste L&ine | A&ppend Clipboard | &Empty Clipboard | Select &All | &Get Last Selection | - | "
+            "&Find | &Replace | &Set Search/Replace | - | &Upper Case | &Lower Case | &Title Case");
+  EXPECT_EQ(layoutOf(frame->activeEditor()->menus().menu("mnuSettings")),
+            "&Edit Schemes | - | &Toolbar | &Status Bar | &Auto Format | - | Edit &Send-To List");
+}
