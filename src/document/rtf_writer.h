@@ -1,0 +1,26 @@
+#pragma once
+// The rich-text writer: saves styled text as RTF that this reader and word processors read back
+// with the same text and formats. Paragraph breaks (CR LF) become \par, one per source line; the
+// left indent goes on every paragraph; characters outside ASCII are written as \'hh escapes.
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/rtf_styling.h"
+#include "document/style_table.h"
+
+namespace lathwick {
+
+struct StyledTextView {
+  std::string_view text;
+  std::string_view styles;                        // one style byte per character, or empty
+  const std::vector<TextRange>* strikeouts = nullptr;  // offsets into `text`
+  int indentTwips = 0;
+};
+
+std::string writeRtf(const StyledTextView& view, const StyleTable& table);
+
+// Writes through a temporary file; throws AppError when it cannot.
+void writeRtfFile(const std::string& path, const StyledTextView& view, const StyleTable& table);
+
+}  // namespace lathwick
