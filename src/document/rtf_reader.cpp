@@ -170,8 +170,8 @@ class Reader {
     if (state_.destination == Destination::Text) {
       const char32_t u = static_cast<char32_t>(value < 0 ? value + 65536 : value) & 0xFFFF;
       pendingLead_ = false;
-      if (u >= 0xDC00 && u <= 0xDFFF) {
-        // the second half of a surrogate pair: its '?' was written with the first half
+      if (u == 0 || (u >= 0xDC00 && u <= 0xDFFF)) {
+        // a NUL, or the second half of a surrogate pair whose '?' came with the first half
       } else {
         const int w = (u >= 0xD800 && u <= 0xDBFF) ? -1 : unicodeToWindows1252(u);
         put(w < 0 ? '?' : static_cast<char>(w));
@@ -367,7 +367,9 @@ class Reader {
         break;
       case Word::Tab:
       case Word::Cell: symbol('\t'); break;
-      case Word::Unicode: unicodeChar(param); break;
+      case Word::Unicode:
+        if (hasParameter) unicodeChar(param);
+        break;
       case Word::UnicodeSkip: state_.unicodeSkip = std::clamp(param, 0, 16); break;
       case Word::Bin: {
         const auto left = static_cast<unsigned long long>(end_ - p_);
