@@ -27,7 +27,7 @@ constexpr Entry kEntries[] = {
     {"strike", Word::Strike}, {"striked", Word::StrikeDouble},
     {"pard", Word::Pard}, {"par", Word::Par}, {"line", Word::Line}, {"sect", Word::Sect},
     {"tab", Word::Tab}, {"cell", Word::Cell}, {"nestcell", Word::Cell}, {"row", Word::Row},
-    {"nestrow", Word::Row}, {"li", Word::LeftIndent}, {"u", Word::Unicode}, {"uc", Word::UnicodeSkip},
+    {"nestrow", Word::Row}, {"nesttableprops", Word::NestedTableProperties}, {"li", Word::LeftIndent}, {"u", Word::Unicode}, {"uc", Word::UnicodeSkip},
     {"bin", Word::Bin}, {"emdash", Word::EmDash}, {"endash", Word::EnDash}, {"bullet", Word::Bullet},
     {"lquote", Word::LQuote}, {"rquote", Word::RQuote}, {"ldblquote", Word::LDblQuote},
     {"rdblquote", Word::RDblQuote}, {"emspace", Word::Space}, {"enspace", Word::Space},

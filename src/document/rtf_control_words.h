@@ -16,7 +16,7 @@ enum class Word : unsigned char {
   Plain, Font, FontSize, ColourFore, Bold, Italic, Underline, UnderlineNone, UnderlineOther,
   Strike, StrikeDouble,
   // paragraphs and special characters
-  Pard, Par, Line, Sect, Tab, Cell, Row, LeftIndent, Unicode, UnicodeSkip, Bin,
+  Pard, Par, Line, Sect, Tab, Cell, Row, NestedTableProperties, LeftIndent, Unicode, UnicodeSkip, Bin,
   EmDash, EnDash, Bullet, LQuote, RQuote, LDblQuote, RDblQuote, Space,
 };
 

@@ -17,7 +17,9 @@ namespace {
 
 using rtf::Word;
 
-enum class Destination : unsigned char { Text, FontTable, ColourTable, Skip };
+// NestedRowProperties is skipped like any other destination, except that the end of a nested
+// table row it holds (\nestrow) still ends a line of the text.
+enum class Destination : unsigned char { Text, FontTable, ColourTable, Skip, NestedRowProperties };
 
 struct GroupState {
   RtfCharFormat format;
@@ -361,10 +363,15 @@ class Reader {
       case Word::Par:
       case Word::Sect: paragraphBreak(true); break;
       case Word::Line: paragraphBreak(false); break;
-      case Word::Row:
+      case Word::Row: {
+        const Destination was = state_.destination;
+        if (was == Destination::NestedRowProperties) state_.destination = Destination::Text;
         if (state_.destination == Destination::Text && !doc_.text.empty() && doc_.text.back() == '\t') doc_.text.pop_back();
         paragraphBreak(true);
+        state_.destination = was;
         break;
+      }
+      case Word::NestedTableProperties: state_.destination = Destination::NestedRowProperties; break;
       case Word::Tab:
       case Word::Cell: symbol('\t'); break;
       case Word::Unicode:
