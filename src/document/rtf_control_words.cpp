@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace lathwick::rtf {
 namespace {
@@ -57,20 +58,33 @@ constexpr Entry kEntries[] = {
 };
 
 constexpr std::size_t kSlots = 512;  // a power of two, well above the number of entries
+constexpr std::size_t kMaxPacked = 8;
 
-constexpr std::uint32_t hashOf(std::string_view s) {
-  std::uint32_t h = 2166136261u;
-  for (char c : s) h = (h ^ static_cast<unsigned char>(c)) * 16777619u;
-  return h;
+// Names of up to eight letters (all the vocabulary) are compared as one 64-bit number.
+std::uint64_t pack(std::string_view s) {
+  std::uint64_t key = 0;
+  std::memcpy(&key, s.data(), s.size());
+  return key;
 }
 
+std::size_t slotOf(std::uint64_t key) { return static_cast<std::size_t>((key * 0x9E3779B97F4A7C15ull) >> 55) & (kSlots - 1); }
+
 struct Table {
-  std::array<const Entry*, kSlots> slots{};
+  std::array<std::uint64_t, kSlots> keys{};
+  std::array<Word, kSlots> words{};
+  std::array<const Entry*, kSlots> longNames{};  // the few names longer than eight letters
   Table() {
     for (const Entry& e : kEntries) {
-      std::size_t i = hashOf(e.name) & (kSlots - 1);
-      while (slots[i] != nullptr) i = (i + 1) & (kSlots - 1);
-      slots[i] = &e;
+      const std::uint64_t key = pack(e.name.substr(0, kMaxPacked));
+      std::size_t i = slotOf(key);
+      if (e.name.size() <= kMaxPacked) {
+        while (keys[i] != 0) i = (i + 1) & (kSlots - 1);
+        keys[i] = key;
+        words[i] = e.word;
+      } else {
+        while (longNames[i] != nullptr) i = (i + 1) & (kSlots - 1);
+        longNames[i] = &e;
+      }
     }
   }
 };
@@ -82,13 +96,19 @@ const Table& table() {
 
 }  // namespace
 
+Word lookupPackedWord(std::uint64_t key) {
+  static const Table& t = table();
+  for (std::size_t i = slotOf(key); t.keys[i] != 0; i = (i + 1) & (kSlots - 1))
+    if (t.keys[i] == key) return t.words[i];
+  return Word::Unknown;
+}
+
 Word lookupWord(std::string_view name) {
-  const auto& slots = table().slots;
-  std::size_t i = hashOf(name) & (kSlots - 1);
-  while (const Entry* e = slots[i]) {
-    if (e->name == name) return e->word;
-    i = (i + 1) & (kSlots - 1);
-  }
+  const Table& t = table();
+  if (name.empty()) return Word::Unknown;
+  if (name.size() <= kMaxPacked) return lookupPackedWord(pack(name));
+  for (std::size_t i = slotOf(pack(name.substr(0, kMaxPacked))); t.longNames[i]; i = (i + 1) & (kSlots - 1))
+    if (t.longNames[i]->name == name) return t.longNames[i]->word;
   return Word::Unknown;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The control words the rich-text reader acts on, found by name in a small hash table (the
 // colorizer's output carries a dozen of them per line, so the lookup must be cheap).
+#include <cstdint>
 #include <string_view>
 
 namespace lathwick::rtf {
@@ -21,5 +22,8 @@ enum class Word : unsigned char {
 };
 
 Word lookupWord(std::string_view name);
+// The same for a name of at most eight letters packed little-endian into a number (the first
+// letter in the lowest byte), as the reader builds it while scanning.
+Word lookupPackedWord(std::uint64_t key);
 
 }  // namespace lathwick::rtf

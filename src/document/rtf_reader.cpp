@@ -250,7 +250,9 @@ class Reader {
     }
     char name[kMaxControlWordLength];
     int length = 0;
+    std::uint64_t packed = 0;
     while (p_ < end_ && isLetter(static_cast<unsigned char>(*p_))) {
+      if (length < 8) packed |= static_cast<std::uint64_t>(static_cast<unsigned char>(*p_)) << (8 * length);
       if (length < kMaxControlWordLength) name[length++] = *p_;
       ++p_;
     }
@@ -269,7 +271,8 @@ class Reader {
     if (p_ < end_ && *p_ == ' ') ++p_;  // the delimiting blank belongs to the control word
     value = std::min<long long>(value, INT_MAX);
     const int param = static_cast<int>(negative ? -value : value);
-    controlWord(rtf::lookupWord(std::string_view(name, length)), hasParameter, param);
+    const Word word = length <= 8 ? rtf::lookupPackedWord(packed) : rtf::lookupWord(std::string_view(name, length));
+    controlWord(word, hasParameter, param);
   }
 
   void controlSymbol(unsigned char c) {

@@ -80,35 +80,51 @@ struct Tables {
 
 }  // namespace
 
+bool plainByte(unsigned char c) { return c >= 0x20 && c < 0x80 && c != '\\' && c != '{' && c != '}'; }
+
 std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
   const Tables tables(table, view.indentTwips);
+  const std::string_view text = view.text;
+  const std::size_t n = text.size();
   std::string out;
-  out.reserve(view.text.size() + view.text.size() / 4 + tables.header.size() + 64);
+  // Room for the text and the attribute strings; pages never touched cost nothing.
+  out.reserve(tables.header.size() + 2 * n + 64);
   out += tables.header;
   std::string indent = "\\li";
   appendNumber(indent, view.indentTwips);
   indent += ' ';
 
-  const std::string_view text = view.text;
-  const bool styled = view.styles.size() == text.size();
+  const bool styled = view.styles.size() == n;
+  static const std::vector<TextRange> kNone;
+  const std::vector<TextRange>& strikes = view.strikeouts ? *view.strikeouts : kNone;
   std::size_t strikeIndex = 0;
+  std::size_t boundary = 0;  // where the strikeout may next begin or end
+  bool strike = false;
   int currentStyle = -1;
   bool currentStrike = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  std::size_t i = 0;
+  while (i < n) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
-    if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+    if (c == '\r' && i + 1 < n && text[i + 1] == '\n') {
       out += "\\par\r\n";
       out += indent;
-      ++i;
+      i += 2;
       continue;
     }
-    const int style = styled ? static_cast<unsigned char>(view.styles[i]) : 0;
-    bool strike = false;
-    if (view.strikeouts) {
-      const auto& ranges = *view.strikeouts;
-      while (strikeIndex < ranges.size() && ranges[strikeIndex].end <= i) ++strikeIndex;
-      strike = strikeIndex < ranges.size() && ranges[strikeIndex].start <= i;
+    if (i >= boundary) {
+      while (strikeIndex < strikes.size() && strikes[strikeIndex].end <= i) ++strikeIndex;
+      if (strikeIndex == strikes.size()) {
+        strike = false;
+        boundary = n;
+      } else if (strikes[strikeIndex].start <= i) {
+        strike = true;
+        boundary = strikes[strikeIndex].end;
+      } else {
+        strike = false;
+        boundary = strikes[strikeIndex].start;
+      }
     }
+    const int style = styled ? static_cast<unsigned char>(view.styles[i]) : 0;
     if (style != currentStyle || strike != currentStrike) {
       out += tables.attributes[static_cast<std::size_t>(style)];
       if (strike) out += "\\strike";
@@ -116,18 +132,24 @@ std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
       currentStyle = style;
       currentStrike = strike;
     }
+    if (plainByte(c)) {
+      // Copy the stretch of plain characters in this format in one go.
+      std::size_t j = i + 1;
+      while (j < boundary && plainByte(static_cast<unsigned char>(text[j])) &&
+             (!styled || static_cast<unsigned char>(view.styles[j]) == style))
+        ++j;
+      out.append(text.data() + i, j - i);
+      i = j;
+      continue;
+    }
     switch (c) {
       case '\\': out += "\\\\"; break;
       case '{': out += "\\{"; break;
       case '}': out += "\\}"; break;
       case '\t': out += "\\tab "; break;
-      default:
-        if (c < 0x20 || c >= 0x80) {
-          appendHex(out, c);
-        } else {
-          out += static_cast<char>(c);
-        }
+      default: appendHex(out, c);
     }
+    ++i;
   }
   out += "\\par}\r\n";
   return out;

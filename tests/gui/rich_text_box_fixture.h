@@ -9,12 +9,14 @@
 
 namespace lathwick::test {
 
+// The application object lives until the process ends: destroying it from the exit handlers,
+// after Qt's own globals are gone, crashes.
 inline void ensureApplication() {
   if (QApplication::instance()) return;
   static int argc = 1;
   static char name[] = "lathwick_gui_tests";
   static char* argv[] = {name, nullptr};
-  static QApplication app(argc, argv);
+  new QApplication(argc, argv);  // deliberately never deleted
 }
 
 class RichTextBoxTest : public ::testing::Test {
