@@ -34,6 +34,16 @@ constexpr int kMaxControlWordLength = 32;
 constexpr int kMinHalfPoints = 2;
 constexpr int kMaxHalfPoints = 3276;  // what the text control can show
 
+// Bytes that end a stretch of plain text: the three RTF specials and control bytes but TAB.
+struct TextStops {
+  bool stop[256] = {};
+  constexpr TextStops() {
+    for (int c = 0; c < 0x20; ++c) stop[c] = c != '\t';
+    stop[static_cast<unsigned char>('\\')] = stop[static_cast<unsigned char>('{')] = stop[static_cast<unsigned char>('}')] = true;
+  }
+};
+constexpr TextStops kTextStops;
+
 bool isLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool isDigit(unsigned char c) { return c >= '0' && c <= '9'; }
 int hexValue(unsigned char c) {
@@ -110,11 +120,7 @@ class Reader {
     if (unicodeSkipLeft_ == 0 && !pendingLead_ && directCodePage()) {
       // The common case: copy the block up to the next special byte in one go.
       const char* start = p_;
-      while (p_ < end_) {
-        const unsigned char c = static_cast<unsigned char>(*p_);
-        if (c == '\\' || c == '{' || c == '}' || (c < 0x20 && c != '\t')) break;
-        ++p_;
-      }
+      while (p_ < end_ && !kTextStops.stop[static_cast<unsigned char>(*p_)]) ++p_;
       if (p_ > start) {
         beginText();
         doc_.text.append(start, p_);

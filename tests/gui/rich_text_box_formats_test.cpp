@@ -48,6 +48,13 @@ TEST_F(RichTextBoxFormats, SavedRichTextLoadsBackTheSame) {
   for (long i = 0; i < box->textLength(); ++i) formats.push_back(formatAt(i));
   const auto strikes = box->strikeoutsOf(0, box->textLength());
   box->saveFile(dir.file("saved.rtf"), FileKind::RichText);
+  // Once edited, the control's own styles are what is saved.
+  box->setSelStart(0);
+  box->setSelLength(1);
+  box->setSelText("");
+  box->undo();
+  box->saveFile(dir.file("edited.rtf"), FileKind::RichText);
+  EXPECT_EQ(dir.read("edited.rtf"), dir.read("saved.rtf"));
 
   lathwick::RichTextBox other;
   other.loadFile(dir.file("saved.rtf"), FileKind::RichText);

@@ -74,7 +74,7 @@ void RichTextBox::setTextBytes(std::string_view text) {
   resetStyles();
   indentTwips_ = defaultIndentTwips_;
   applyIndent();
-  replaceAllText(text, nullptr);
+  replaceAllText(text, DocumentStyling{});
 }
 
 // ---- selection ----------------------------------------------------------------------------
@@ -229,6 +229,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 // the format of the character before it; both are applied once the insertion is done.
 void RichTextBox::onModified(int position, int type, const char*, int length, int, int, int, int, int, int) {
   if (loading_) return;
+  loadedStyling_.reset();
   if ((type & SC_MOD_BEFOREDELETE) && !(type & SC_PERFORMED_UNDO) && length > 0) {
     DeletedFormats d{position, length, {}, {}};
     std::string text;
@@ -300,23 +301,25 @@ void RichTextBox::paintStrikeouts(long offset, const std::vector<TextRange>& ran
 }
 
 // ---- loading and saving -------------------------------------------------------------------
-void RichTextBox::replaceAllText(std::string_view text, const DocumentStyling* styling) {
+void RichTextBox::replaceAllText(std::string_view text, DocumentStyling styling) {
   loading_ = true;
   pending_.clear();
   deleted_.clear();
+  loadedStyling_.reset();
   SendScintilla(SCI_SETUNDOCOLLECTION, 0L);
   SendScintilla(SCI_CLEARALL);
   SendScintilla(SCI_ALLOCATE, static_cast<long>(text.size() + 1));
   SendScintilla(SCI_APPENDTEXT, static_cast<uintptr_t>(text.size()), text.data());
-  if (styling) {
+  if (!styling.styles.empty()) {
     defineNewStyles();
     SendScintilla(SCI_STARTSTYLING, 0L, 0L);
-    SendScintilla(SCI_SETSTYLINGEX, static_cast<uintptr_t>(styling->styles.size()), styling->styles.data());
-    paintStrikeouts(0, styling->strikeouts);
+    SendScintilla(SCI_SETSTYLINGEX, static_cast<uintptr_t>(styling.styles.size()), styling.styles.data());
+    paintStrikeouts(0, styling.strikeouts);
   }
   SendScintilla(SCI_EMPTYUNDOBUFFER);
   SendScintilla(SCI_SETUNDOCOLLECTION, 1L);
   SendScintilla(SCI_SETSAVEPOINT);
+  loadedStyling_ = std::move(styling);
   loading_ = false;
   emit textModified();
 }
@@ -324,10 +327,10 @@ void RichTextBox::replaceAllText(std::string_view text, const DocumentStyling* s
 void RichTextBox::loadRtf(std::string_view rtf) {
   const RtfDocument doc = readRtf(rtf);
   resetStyles();
-  const DocumentStyling styling = styleDocument(doc, table_);
+  DocumentStyling styling = styleDocument(doc, table_);
   indentTwips_ = doc.indentTwips;
   applyIndent();
-  replaceAllText(doc.text, &styling);
+  replaceAllText(doc.text, std::move(styling));
 }
 
 void RichTextBox::loadFile(const std::string& path, FileKind kind) {
@@ -341,6 +344,13 @@ void RichTextBox::loadFile(const std::string& path, FileKind kind) {
 }
 
 std::string RichTextBox::rtf() const {
+  if (loadedStyling_) {
+    // Unchanged since it was loaded: the text as the control holds it, the styles as loaded.
+    const long length = textLength();
+    const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+    const std::string_view text(p ? p : "", p ? static_cast<std::size_t>(length) : 0);
+    return writeRtf({text, loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_);
+  }
   std::string text;
   std::vector<TextRange> strikes;
   const std::string styles = styledView(0, textLength(), text, strikes);
@@ -356,16 +366,17 @@ void RichTextBox::saveFile(const std::string& path, FileKind kind) const {
 }
 
 std::string RichTextBox::stylesOf(long start, long end) const {
-  std::string styles;
   start = std::clamp(start, 0L, textLength());
   end = std::clamp(end, start, textLength());
-  styles.reserve(static_cast<std::size_t>(end - start));
+  std::string styles(static_cast<std::size_t>(end - start), '\0');
   std::string buffer;
   for (long from = start; from < end; from += kChunk) {
     const long to = std::min(end, from + kChunk);
     buffer.resize(static_cast<std::size_t>(to - from) * 2 + 2);
     SendScintilla(SCI_GETSTYLEDTEXT, from, to, buffer.data());
-    for (long i = 0; i < to - from; ++i) styles += buffer[static_cast<std::size_t>(i) * 2 + 1];
+    char* out = styles.data() + (from - start);
+    const char* in = buffer.data() + 1;
+    for (long i = 0; i < to - from; ++i) out[i] = in[2 * i];
   }
   return styles;
 }

@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QPoint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -106,7 +107,7 @@ class RichTextBox : public QsciScintilla {
                   int foldNow, int foldPrev, int token, int annotationLinesAdded);
   void flushPendingFormats();
   void applyPending(const PendingFormat& pending);
-  void replaceAllText(std::string_view text, const DocumentStyling* styling);
+  void replaceAllText(std::string_view text, DocumentStyling styling);
   void resetStyles();
   void defineStyle(int style);
   void defineNewStyles();
@@ -124,6 +125,9 @@ class RichTextBox : public QsciScintilla {
   bool loading_ = false;
   std::vector<DeletedFormats> deleted_;
   std::vector<PendingFormat> pending_;
+  // The styling of the last load while the text has not changed since: saving the document then
+  // needs no styles read back from the control (empty styles: all style 0).
+  std::optional<DocumentStyling> loadedStyling_;
   bool flushQueued_ = false;
 };
 
