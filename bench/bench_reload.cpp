@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -125,8 +126,24 @@ void BM_LoadPlainText(benchmark::State& state) {
   state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
 }
 
+// Typing near the end of the colorized program: each keystroke must stay in milliseconds.
+void BM_KeystrokeNearEnd(benchmark::State& state) {
+  const Files& f = files();
+  auto box = shownBox();
+  box->loadFile(f.colorized, FileKind::RichText);
+  box->setFocus();
+  box->setSelStart(box->lineIndex(box->lineCount() - 2) + 3);
+  for (auto _ : state) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
+    QApplication::sendEvent(box.get(), &key);
+    QApplication::processEvents();
+  }
+  state.counters["lines"] = box->lineCount();
+}
+
 }  // namespace
 
+BENCHMARK(BM_KeystrokeNearEnd)->Unit(benchmark::kMillisecond)->Iterations(200);
 BENCHMARK(BM_LoadPlainText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_LoadColorizedRichText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_ReloadColorized)->Unit(benchmark::kMillisecond)->Iterations(3);

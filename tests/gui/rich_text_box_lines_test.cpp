@@ -1,5 +1,7 @@
 // The control's line model and selection, as every other part of the editor reads them.
+#include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 
 #include "rich_text_box_fixture.h"
 #include "platform/errors.h"
@@ -78,4 +80,23 @@ TEST_F(RichTextBoxTest, FileKindFollowsTheRtfExtension) {
   EXPECT_EQ(lathwick::fileKindOf("C:/X.RTF"), FileKind::RichText);
   EXPECT_EQ(lathwick::fileKindOf("x.rtf.nc"), FileKind::PlainText);
   EXPECT_EQ(lathwick::fileKindOf("rtf"), FileKind::PlainText);
+}
+
+TEST_F(RichTextBoxTest, EditsAreReportedAndAssistiveTechnologyGetsTheCheapDescription) {
+  int reports = 0;
+  QObject::connect(box.get(), &lathwick::RichTextBox::textModified, [&] { ++reports; });
+  box->setTextBytes("N10");
+  EXPECT_EQ(reports, 1);  // one report per load
+  box->setFocus();
+  box->setSelStart(3);
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, "1");
+  QApplication::sendEvent(box.get(), &key);
+  EXPECT_EQ(box->textBytes(), "N101");
+  EXPECT_EQ(reports, 2);
+  EXPECT_TRUE(box->canUndo());
+  // The control's own description has no text interface that counts characters from the start.
+  QAccessibleInterface* description = QAccessible::queryAccessibleInterface(box.get());
+  ASSERT_NE(description, nullptr);
+  EXPECT_EQ(description->role(), QAccessible::EditableText);
+  EXPECT_EQ(description->textInterface(), nullptr);
 }
