@@ -9,8 +9,7 @@
 
 #include "document/rtf_code_pages.h"
 #include "document/rtf_control_words.h"
-#include "platform/errors.h"
-#include "platform/file_system.h"
+#include "document/rtf_source_file.h"
 
 namespace lathwick {
 namespace {
@@ -482,9 +481,8 @@ class Reader {
 RtfDocument readRtf(std::string_view rtf) { return Reader(rtf).run(); }
 
 RtfDocument readRtfFile(const std::string& path) {
-  const auto bytes = readWholeFile(path);
-  if (!bytes) throw makeError(err::kFileNotFound);
-  return readRtf(*bytes);
+  const SourceFile file(path);
+  return readRtf(file.bytes());
 }
 
 }  // namespace lathwick

@@ -1,5 +1,6 @@
 #include "document/rtf_writer.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 
@@ -80,15 +81,20 @@ struct Tables {
 
 }  // namespace
 
+namespace {
+
 bool plainByte(unsigned char c) { return c >= 0x20 && c < 0x80 && c != '\\' && c != '{' && c != '}'; }
 
-std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
+constexpr std::size_t kPiece = 1 << 20;
+
+}  // namespace
+
+void writeRtf(const StyledTextView& view, const StyleTable& table, const std::function<void(std::string_view)>& sink) {
   const Tables tables(table, view.indentTwips);
   const std::string_view text = view.text;
   const std::size_t n = text.size();
   std::string out;
-  // Room for the text and the attribute strings; pages never touched cost nothing.
-  out.reserve(tables.header.size() + 2 * n + 64);
+  out.reserve(kPiece + 4096);
   out += tables.header;
   std::string indent = "\\li";
   appendNumber(indent, view.indentTwips);
@@ -104,6 +110,10 @@ std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
   bool currentStrike = false;
   std::size_t i = 0;
   while (i < n) {
+    if (out.size() >= kPiece) {
+      sink(out);
+      out.clear();
+    }
     const unsigned char c = static_cast<unsigned char>(text[i]);
     if (c == '\r' && i + 1 < n && text[i + 1] == '\n') {
       out += "\\par\r\n";
@@ -134,8 +144,9 @@ std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
     }
     if (plainByte(c)) {
       // Copy the stretch of plain characters in this format in one go.
+      const std::size_t limit = std::min(boundary, i + kPiece);
       std::size_t j = i + 1;
-      while (j < boundary && plainByte(static_cast<unsigned char>(text[j])) &&
+      while (j < limit && plainByte(static_cast<unsigned char>(text[j])) &&
              (!styled || static_cast<unsigned char>(view.styles[j]) == style))
         ++j;
       out.append(text.data() + i, j - i);
@@ -152,11 +163,19 @@ std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
     ++i;
   }
   out += "\\par}\r\n";
-  return out;
+  sink(out);
+}
+
+std::string writeRtf(const StyledTextView& view, const StyleTable& table) {
+  std::string rtf;
+  writeRtf(view, table, [&rtf](std::string_view piece) { rtf += piece; });
+  return rtf;
 }
 
 void writeRtfFile(const std::string& path, const StyledTextView& view, const StyleTable& table) {
-  writeFileAtomically(path, writeRtf(view, table));
+  AtomicFileWriter file(path);
+  writeRtf(view, table, [&file](std::string_view piece) { file.write(piece); });
+  file.commit();
 }
 
 }  // namespace lathwick

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "document/rtf_reader.h"
+#include "document/rtf_source_file.h"
 #include "document/rtf_writer.h"
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
@@ -334,12 +335,11 @@ void RichTextBox::loadRtf(std::string_view rtf) {
 }
 
 void RichTextBox::loadFile(const std::string& path, FileKind kind) {
-  const auto bytes = readWholeFile(path);
-  if (!bytes) throw makeError(isRegularFile(path) ? err::kPermissionDenied : err::kFileNotFound);
+  const SourceFile file(path);
   if (kind == FileKind::RichText) {
-    loadRtf(*bytes);
+    loadRtf(file.bytes());
   } else {
-    setTextBytes(*bytes);
+    setTextBytes(file.bytes());
   }
 }
 
@@ -358,10 +358,18 @@ std::string RichTextBox::rtf() const {
 }
 
 void RichTextBox::saveFile(const std::string& path, FileKind kind) const {
-  if (kind == FileKind::RichText) {
-    writeFileAtomically(path, rtf());
+  const long length = textLength();
+  const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  const std::string_view whole(p ? p : "", p ? static_cast<std::size_t>(length) : 0);
+  if (kind == FileKind::PlainText) {
+    writeFileAtomically(path, whole);
+  } else if (loadedStyling_) {
+    writeRtfFile(path, {whole, loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_);
   } else {
-    writeFileAtomically(path, textBytes());
+    std::string text;
+    std::vector<TextRange> strikes;
+    const std::string styles = styledView(0, length, text, strikes);
+    writeRtfFile(path, {text, styles, &strikes, indentTwips_}, table_);
   }
 }
 
