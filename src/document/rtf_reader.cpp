@@ -324,7 +324,11 @@ class Reader {
       case Word::Pca: documentCodePage_ = 850; refreshCodePage(); break;
       case Word::Deff: defaultFont_ = param; if (f.font < 0) { f.font = param; refreshCodePage(); } break;
       case Word::FontTable: state_.destination = Destination::FontTable; break;
-      case Word::ColourTable: state_.destination = Destination::ColourTable; colour_ = {}; break;
+      case Word::ColourTable:
+        state_.destination = Destination::ColourTable;
+        colours_.clear();
+        colour_ = {};
+        break;
       case Word::FontCharset:
         if (state_.destination == Destination::FontTable && fontCodePage_ == 0) fontCharsetPage_ = codePageOfCharset(param);
         break;
@@ -478,7 +482,20 @@ class Reader {
 
 }  // namespace
 
-RtfDocument readRtf(std::string_view rtf) { return Reader(rtf).run(); }
+RtfDocument readRtf(std::string_view rtf) {
+  // A file that is not rich text at all (a plain program given a .RTF name) loads as it is.
+  const std::size_t first = rtf.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos || rtf.substr(first, 5) != "{\\rtf") {
+    RtfDocument doc;
+    doc.text = std::string(rtf);
+    if (!doc.text.empty()) {
+      doc.formats.push_back(RtfCharFormat{});
+      doc.runs.push_back({0, 0});
+    }
+    return doc;
+  }
+  return Reader(rtf.substr(first)).run();
+}
 
 RtfDocument readRtfFile(const std::string& path) {
   const SourceFile file(path);

@@ -11,7 +11,7 @@ using lathwick::readRtf;
 TEST(RtfMalformed, UnbalancedBracesKeepTheText) {
   EXPECT_EQ(readRtf("{\\rtf1 a}}} b\\par}").text, "a b");     // closing braces too many
   EXPECT_EQ(readRtf("{\\rtf1 a{\\b b{\\i c").text, "abc");      // never closed
-  EXPECT_EQ(readRtf("}}}{\\rtf1 x}").text, "x");
+  EXPECT_EQ(readRtf("{\\rtf1 x}}}} y").text, "x y");  // text after the document's end still shows
 }
 
 TEST(RtfMalformed, TruncatedInputEndsWhereItStops) {

@@ -138,3 +138,9 @@ TEST(RtfReader, GroupsRestoreTheFormatAndTablesSplitCells) {
   EXPECT_TRUE(formatAt(doc, 1).bold);
   EXPECT_FALSE(formatAt(doc, 2).bold);
 }
+
+TEST(RtfReader, TextThatIsNotRichTextLoadsAsItIs) {
+  EXPECT_EQ(textOf("N10 G00 X0\r\nN20 {x}\\"), "N10 G00 X0\r\nN20 {x}\\");
+  EXPECT_EQ(textOf(""), "");
+  EXPECT_EQ(textOf("\r\n {\\rtf1 a}"), "a");  // blank lines before the header are allowed
+}
