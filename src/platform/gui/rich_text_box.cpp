@@ -18,6 +18,7 @@ namespace {
 
 constexpr int kStrikeIndicator = 8;  // the first indicator number free for containers
 constexpr long kChunk = 1 << 20;     // styles are read back a megabyte at a time
+constexpr std::size_t kMaxStylePieces = 20000;  // past this many edits, styles are read back whole
 
 // Stock QScintilla describes the control to assistive technology by counting characters from
 // the start of the document on every caret move and edit, which makes typing near the end of a
@@ -230,7 +231,11 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 // the format of the character before it; both are applied once the insertion is done.
 void RichTextBox::onModified(int position, int type, const char*, int length, int, int, int, int, int, int) {
   if (loading_) return;
-  loadedStyling_.reset();
+  if (loadedStyling_) {
+    if (type & SC_MOD_BEFOREDELETE) pieces_.erase(static_cast<std::size_t>(position), static_cast<std::size_t>(length));
+    if (type & SC_MOD_BEFOREINSERT) pieces_.insert(static_cast<std::size_t>(position), static_cast<std::size_t>(length));
+    if (pieces_.pieceCount() > kMaxStylePieces) loadedStyling_.reset();
+  }
   if ((type & SC_MOD_BEFOREDELETE) && !(type & SC_PERFORMED_UNDO) && length > 0) {
     DeletedFormats d{position, length, {}, {}};
     std::string text;
@@ -321,6 +326,7 @@ void RichTextBox::replaceAllText(std::string_view text, DocumentStyling styling)
   SendScintilla(SCI_SETUNDOCOLLECTION, 1L);
   SendScintilla(SCI_SETSAVEPOINT);
   loadedStyling_ = std::move(styling);
+  pieces_.reset(text.size());
   loading_ = false;
   emit textModified();
 }
@@ -343,34 +349,48 @@ void RichTextBox::loadFile(const std::string& path, FileKind kind) {
   }
 }
 
-std::string RichTextBox::rtf() const {
-  if (loadedStyling_) {
-    // Unchanged since it was loaded: the text as the control holds it, the styles as loaded.
-    const long length = textLength();
-    const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
-    const std::string_view text(p ? p : "", p ? static_cast<std::size_t>(length) : 0);
-    return writeRtf({text, loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_);
+std::string_view RichTextBox::characterView() const {
+  const long length = textLength();
+  const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  return p ? std::string_view(p, static_cast<std::size_t>(length)) : std::string_view();
+}
+
+// The whole document as rich text. Styles are taken from the load where the text is unedited
+// and read back from the control only for the edited stretches.
+void RichTextBox::writeWholeRtf(const std::function<void(std::string_view)>& sink) const {
+  const long length = textLength();
+  if (loadedStyling_ && pieces_.unchanged(static_cast<std::size_t>(length))) {
+    writeRtf({characterView(), loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_, sink);
+    return;
   }
-  std::string text;
-  std::vector<TextRange> strikes;
-  const std::string styles = styledView(0, textLength(), text, strikes);
-  return writeRtf({text, styles, &strikes, indentTwips_}, table_);
+  std::string styles;
+  if (loadedStyling_) {
+    styles = pieces_.assemble(loadedStyling_->styles, static_cast<std::size_t>(length),
+                              [this](std::size_t at, std::size_t count, char* out) {
+                                const std::string part = stylesOf(static_cast<long>(at), static_cast<long>(at + count));
+                                std::copy(part.begin(), part.end(), out);
+                              });
+  } else {
+    styles = stylesOf(0, length);
+  }
+  const std::vector<TextRange> strikes = strikeoutsOf(0, length);
+  writeRtf({characterView(), styles, &strikes, indentTwips_}, table_, sink);
+}
+
+std::string RichTextBox::rtf() const {
+  std::string rtf;
+  writeWholeRtf([&rtf](std::string_view piece) { rtf += piece; });
+  return rtf;
 }
 
 void RichTextBox::saveFile(const std::string& path, FileKind kind) const {
-  const long length = textLength();
-  const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
-  const std::string_view whole(p ? p : "", p ? static_cast<std::size_t>(length) : 0);
   if (kind == FileKind::PlainText) {
-    writeFileAtomically(path, whole);
-  } else if (loadedStyling_) {
-    writeRtfFile(path, {whole, loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_);
-  } else {
-    std::string text;
-    std::vector<TextRange> strikes;
-    const std::string styles = styledView(0, length, text, strikes);
-    writeRtfFile(path, {text, styles, &strikes, indentTwips_}, table_);
+    writeFileAtomically(path, characterView());
+    return;
   }
+  AtomicFileWriter file(path);
+  writeWholeRtf([&file](std::string_view piece) { file.write(piece); });
+  file.commit();
 }
 
 std::string RichTextBox::stylesOf(long start, long end) const {

@@ -8,12 +8,14 @@
 
 #include <QColor>
 #include <QPoint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "document/rtf_styling.h"
+#include "document/style_pieces.h"
 #include "document/style_table.h"
 
 namespace lathwick {
@@ -82,7 +84,8 @@ class RichTextBox : public QsciScintilla {
   std::vector<TextRange> strikeoutsOf(long start, long end) const;
 
  signals:
-  // The text changed, by an edit or a load. Do not change the text from a slot of this signal.
+  // The text changed, by an edit or a load. An edit is reported just before it is made, so a
+  // slot must neither read the new text nor change the text.
   void textModified();
 
  protected:
@@ -115,6 +118,8 @@ class RichTextBox : public QsciScintilla {
   void applyIndent();
   unsigned long colourOf(std::uint32_t colour) const;
   std::string styledView(long start, long end, std::string& text, std::vector<TextRange>& strikes) const;
+  std::string_view characterView() const;
+  void writeWholeRtf(const std::function<void(std::string_view)>& sink) const;
 
   StyleTable table_;
   StyleFormat defaultFormat_;
@@ -125,9 +130,10 @@ class RichTextBox : public QsciScintilla {
   bool loading_ = false;
   std::vector<DeletedFormats> deleted_;
   std::vector<PendingFormat> pending_;
-  // The styling of the last load while the text has not changed since: saving the document then
-  // needs no styles read back from the control (empty styles: all style 0).
+  // The styling of the last load (empty styles: all style 0) and, while edits stay few, which
+  // stretches of the document still have it: saving then reads back only edited stretches.
   std::optional<DocumentStyling> loadedStyling_;
+  StylePieces pieces_;
   bool flushQueued_ = false;
 };
 
