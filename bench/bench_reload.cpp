@@ -99,6 +99,23 @@ void BM_ReloadColorized(benchmark::State& state) {
   state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
 }
 
+// A colorized program edited by hand, then transformed again: the snapshot must write its
+// formats without reading every style back from the control.
+void BM_ReloadOverEditedColorized(benchmark::State& state) {
+  const Files& f = files();
+  auto box = shownBox();
+  const DefaultTextStyle style;
+  for (auto _ : state) {
+    state.PauseTiming();
+    box->loadFile(f.colorized, FileKind::RichText);
+    box->setSelStart(box->lineIndex(400000));
+    box->setSelText("(EDIT)");
+    state.ResumeTiming();
+    ReloadDocument(*box, f.colorized, FileKind::RichText, style, f.undo);
+  }
+  state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
+}
+
 // The colorized load alone (no snapshot: the control is empty).
 void BM_LoadColorizedRichText(benchmark::State& state) {
   const Files& f = files();
@@ -147,6 +164,7 @@ BENCHMARK(BM_KeystrokeNearEnd)->Unit(benchmark::kMillisecond)->Iterations(200);
 BENCHMARK(BM_LoadPlainText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_LoadColorizedRichText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_ReloadColorized)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_ReloadOverEditedColorized)->Unit(benchmark::kMillisecond)->Iterations(3);
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
