@@ -110,6 +110,16 @@ class Reader {
   }
 
   void plainBytes() {
+    if (state_.destination == Destination::ColourTable) {
+      // Only ";" separates colour entries. Anything else means the table was cut short (a
+      // scheme header longer than its field): what follows is the document.
+      while (p_ < end_ && (*p_ == ';' || *p_ == ' ' || *p_ == '\r' || *p_ == '\n')) {
+        if (*p_ == ';') commitColour();
+        ++p_;
+      }
+      if (p_ < end_ && *p_ != '\\' && *p_ != '{' && *p_ != '}') state_.destination = Destination::Text;
+      return;
+    }
     if (state_.destination != Destination::Text) {
       const char* start = p_;
       while (p_ < end_ && *p_ != '\\' && *p_ != '{' && *p_ != '}') ++p_;
@@ -131,20 +141,34 @@ class Reader {
     textByte(c);
   }
 
-  // Text inside the font and colour tables (names and entry separators).
+  // Text inside the font table (names and entry separators).
   void tableText(const char* from, const char* to) {
-    if (state_.destination == Destination::FontTable) {
-      for (const char* q = from; q < to; ++q) {
-        if (*q == ';') {
-          commitFont();
-        } else if (static_cast<unsigned char>(*q) >= 0x20) {
-          fontName_ += *q;
-        }
+    if (state_.destination != Destination::FontTable) return;
+    for (const char* q = from; q < to; ++q) {
+      if (*q == ';') {
+        commitFont();
+      } else if (static_cast<unsigned char>(*q) >= 0x20) {
+        fontName_ += *q;
       }
-    } else if (state_.destination == Destination::ColourTable) {
-      for (const char* q = from; q < to; ++q)
-        if (*q == ';') commitColour();
     }
+  }
+
+  // Words of the document body found inside the font or colour table: the table was cut short
+  // (a scheme header longer than its field), so the table ends here and the body begins.
+  void endTruncatedTable(Word word) {
+    switch (word) {
+      case Word::Par: case Word::Pard: case Word::Plain: case Word::LeftIndent: case Word::FontSize:
+      case Word::ColourFore: case Word::Bold: case Word::Italic: case Word::Underline:
+      case Word::UnderlineNone: case Word::Strike: case Word::Line: case Word::Tab:
+        break;
+      case Word::Font:
+        if (state_.destination == Destination::ColourTable) break;
+        return;
+      default:
+        return;
+    }
+    if (state_.destination == Destination::FontTable) commitFont();
+    state_.destination = Destination::Text;
   }
 
   // One character of text in the current code page (from the source or a \'hh escape).
@@ -312,6 +336,8 @@ class Reader {
   }
 
   void controlWord(Word word, bool hasParameter, int param) {
+    if (state_.destination == Destination::FontTable || state_.destination == Destination::ColourTable)
+      endTruncatedTable(word);
     const bool on = !hasParameter || param != 0;
     RtfCharFormat& f = state_.format;
     switch (word) {

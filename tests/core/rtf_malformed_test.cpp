@@ -89,3 +89,22 @@ TEST(RtfMalformed, MutatedDocumentsNeverCrashTheReader) {
     }
   }
 }
+
+TEST(RtfMalformed, SchemeHeaderCutShortStillShowsTheProgram) {
+  // The header field holds 512 characters; a longer one loses the end of its tables.
+  const auto inColours = readRtf(
+      "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fmodern Courier New;}}\r\n"
+      "{\\colortbl\\red0\\green0\\blue0;\\red255\\green0\\blue0;\\red0\\gre\r\n"
+      "\\li200 \\f0\\fs20\\cf1\\b\\i0\\strike0\\ul0 N10 G00\r\n"
+      "\\par\\li200 \\f0\\fs20\\cf0\\b0\\i0\\strike0\\ul0 N20\r\n\\par}\r\n");
+  EXPECT_EQ(inColours.text, "N10 G00\r\nN20");
+  ASSERT_FALSE(inColours.runs.empty());
+  EXPECT_EQ(inColours.formats[inColours.runs[0].format].colour, 0x0000FFu);  // the entries before the cut count
+  EXPECT_TRUE(inColours.formats[inColours.runs[0].format].bold);
+
+  const auto inFonts = readRtf(
+      "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fmodern Courier New;}{\\f1\\fsw\r\n"
+      "\\li200 \\f0\\fs20\\cf0\\b0 N10\r\n\\par\\li200 \\f1\\fs20\\cf0\\b0 (NOTE)\r\n\\par}\r\n");
+  EXPECT_EQ(inFonts.text, "N10\r\n(NOTE)");
+  EXPECT_EQ(inFonts.fontName(0), "Courier New");
+}
