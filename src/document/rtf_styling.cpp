@@ -5,6 +5,8 @@
 namespace lathwick {
 
 StyleFormat styleFormatOf(const RtfDocument& doc, const RtfCharFormat& format, const StyleTable& table) {
+  // Text that says nothing about its format is in the default style.
+  if (format == RtfCharFormat{}) return table.defaultFormat();
   StyleFormat s;
   s.fontName = doc.fontName(format.font);
   if (s.fontName.empty()) s.fontName = table.defaultFormat().fontName;

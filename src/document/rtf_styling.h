@@ -22,8 +22,8 @@ struct DocumentStyling {
   std::vector<TextRange> strikeouts;  // in order, not overlapping
 };
 
-// The style a run format takes in the table (fonts the document does not name, and sizes it
-// does not give, are the table's default).
+// The style a run format takes in the table: a font the document does not name is the table's
+// default font, and text with no format at all (plain text, for one) is in the default style.
 StyleFormat styleFormatOf(const RtfDocument& doc, const RtfCharFormat& format, const StyleTable& table);
 
 // Styles every character of the document, adding its formats to the table.

@@ -86,3 +86,12 @@ TEST(RtfRoundTrip, ColorizerOutputSurvivesAReadWriteRead) {
         << "at " << i;
   }
 }
+
+TEST(RtfRoundTrip, UnformattedTextTakesTheDefaultStyle) {
+  StyleTable table(makeFormat("Courier New", 20, 0x123456));
+  const auto plain = readRtf("N10 G00\r\nN20");  // not rich text at all
+  const auto styling = styleDocument(plain, table);
+  EXPECT_EQ(styling.styles, std::string(plain.text.size(), '\0'));
+  const auto bare = readRtf("{\\rtf1 N10}");
+  EXPECT_EQ(styleDocument(bare, table).styles, std::string(3, '\0'));
+}

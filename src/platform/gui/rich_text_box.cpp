@@ -110,7 +110,7 @@ void RichTextBox::setSelText(std::string_view text) {
   SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), std::string(text).c_str());
   SendScintilla(SCI_ENDUNDOACTION);
   flushPendingFormats();
-  SendScintilla(SCI_SETEMPTYSELECTION, start + static_cast<long>(text.size()));
+  SendScintilla(SCI_GOTOPOS, start + static_cast<long>(text.size()));
 }
 
 std::string RichTextBox::selRtf() const {
@@ -133,7 +133,7 @@ void RichTextBox::setSelRtf(std::string_view rtf) {
   SendScintilla(SCI_ENDUNDOACTION);
   flushPendingFormats();
   applyPending({start, static_cast<long>(doc.text.size()), styling.styles, styling.strikeouts});
-  SendScintilla(SCI_SETEMPTYSELECTION, start + static_cast<long>(doc.text.size()));
+  SendScintilla(SCI_GOTOPOS, start + static_cast<long>(doc.text.size()));
 }
 
 // ---- lines --------------------------------------------------------------------------------
@@ -237,10 +237,8 @@ void RichTextBox::onModified(int position, int type, const char*, int length, in
     if (pieces_.pieceCount() > kMaxStylePieces) loadedStyling_.reset();
   }
   if ((type & SC_MOD_BEFOREDELETE) && !(type & SC_PERFORMED_UNDO) && length > 0) {
-    DeletedFormats d{position, length, {}, {}};
-    std::string text;
-    d.styles = styledView(position, position + length, text, d.strikeouts);
-    deleted_.push_back(std::move(d));
+    deleted_.push_back({position, length, stylesOf(position, position + length),
+                        strikeoutsOf(position, position + length)});
   }
   if ((type & SC_MOD_BEFOREINSERT) && length > 0) {
     PendingFormat p{position, length, {}, {}};
