@@ -115,12 +115,6 @@ void writeRtf(const StyledTextView& view, const StyleTable& table, const std::fu
       out.clear();
     }
     const unsigned char c = static_cast<unsigned char>(text[i]);
-    if (c == '\r' && i + 1 < n && text[i + 1] == '\n') {
-      out += "\\par\r\n";
-      out += indent;
-      i += 2;
-      continue;
-    }
     if (i >= boundary) {
       while (strikeIndex < strikes.size() && strikes[strikeIndex].end <= i) ++strikeIndex;
       if (strikeIndex == strikes.size()) {
@@ -141,6 +135,13 @@ void writeRtf(const StyledTextView& view, const StyleTable& table, const std::fu
       out += ' ';
       currentStyle = style;
       currentStrike = strike;
+    }
+    if (c == '\r' && i + 1 < n && text[i + 1] == '\n') {
+      // The paragraph mark carries the format of its CR, as the reader gives it to CR and LF.
+      out += "\\par\r\n";
+      out += indent;
+      i += 2;
+      continue;
     }
     if (plainByte(c)) {
       // Copy the stretch of plain characters in this format in one go.
