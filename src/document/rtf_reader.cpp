@@ -4,6 +4,8 @@
 #include "document/rtf_reader.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <climits>
 #include <unordered_map>
 
@@ -63,15 +65,20 @@ class Reader {
     while (p_ < end_) {
       const unsigned char c = static_cast<unsigned char>(*p_);
       if (c == '\\') {
+        if (replayFormatRun()) continue;
+        wordStart_ = p_;
         ++p_;
         controlSequence();
       } else if (c == '{') {
+        endFormatRun(p_);
         ++p_;
         openGroup();
       } else if (c == '}') {
+        endFormatRun(p_);
         ++p_;
         closeGroup();
       } else {
+        endFormatRun(p_);
         plainBytes();
       }
     }
@@ -174,7 +181,7 @@ class Reader {
   // One character of text in the current code page (from the source or a \'hh escape).
   void textByte(unsigned char b) {
     if (state_.destination != Destination::Text) {
-      if (state_.destination == Destination::FontTable) fontName_ += static_cast<char>(b);
+      if (state_.destination == Destination::FontTable && b >= 0x20) fontName_ += static_cast<char>(b);
       return;
     }
     if (unicodeSkipLeft_ > 0) {
@@ -273,6 +280,7 @@ class Reader {
     if (p_ >= end_) return;
     const unsigned char c = static_cast<unsigned char>(*p_);
     if (!isLetter(c)) {
+      endFormatRun(wordStart_);
       ++p_;
       controlSymbol(c);
       return;
@@ -338,6 +346,7 @@ class Reader {
   void controlWord(Word word, bool hasParameter, int param) {
     if (state_.destination == Destination::FontTable || state_.destination == Destination::ColourTable)
       endTruncatedTable(word);
+    trackFormatRun(word);
     const bool on = !hasParameter || param != 0;
     RtfCharFormat& f = state_.format;
     switch (word) {
@@ -348,10 +357,11 @@ class Reader {
       case Word::Mac: documentCodePage_ = 10000; refreshCodePage(); break;
       case Word::Pc: documentCodePage_ = 437; refreshCodePage(); break;
       case Word::Pca: documentCodePage_ = 850; refreshCodePage(); break;
-      case Word::Deff: defaultFont_ = param; if (f.font < 0) { f.font = param; refreshCodePage(); } break;
+      case Word::Deff: forgetFormatRuns(); defaultFont_ = param; if (f.font < 0) { f.font = param; refreshCodePage(); } break;
       case Word::FontTable: state_.destination = Destination::FontTable; break;
       case Word::ColourTable:
         state_.destination = Destination::ColourTable;
+        forgetFormatRuns();
         colours_.clear();
         colour_ = {};
         break;
@@ -432,9 +442,77 @@ class Reader {
     }
   }
 
+  // ---- repeated attribute strings --------------------------------------------------------
+  // The colorizer writes the same few attribute strings (\f0\fs20\cf1\b\i0\strike0\ul0 ) on
+  // every line. A run of control words that sets every character format field, or starts with
+  // \plain, always gives the same format; once seen, the same bytes are not parsed again.
+  static constexpr unsigned kAllFields = 127;
+
+  static unsigned fieldsOf(Word word) {
+    switch (word) {
+      case Word::Plain: return kAllFields;
+      case Word::Font: return 1;
+      case Word::FontSize: return 2;
+      case Word::ColourFore: return 4;
+      case Word::Bold: return 8;
+      case Word::Italic: return 16;
+      case Word::Underline: case Word::UnderlineNone: case Word::UnderlineOther: return 32;
+      case Word::Strike: case Word::StrikeDouble: return 64;
+      default: return 0;
+    }
+  }
+
+  void trackFormatRun(Word word) {
+    const unsigned fields = state_.destination == Destination::Text ? fieldsOf(word) : 0;
+    if (fields == 0) {
+      endFormatRun(wordStart_);  // this word is not part of the run
+      return;
+    }
+    if (!runStart_) {
+      runStart_ = wordStart_;
+      runFields_ = 0;
+    }
+    runFields_ |= fields;
+  }
+
+  // The run of format words (if any) ends at `end`, where the next token starts.
+  void endFormatRun(const char* end) {
+    if (!runStart_) return;
+    const std::size_t length = static_cast<std::size_t>(end - runStart_);
+    if (runFields_ == kAllFields && length >= 8 && runStart_[length - 1] == ' ' && unicodeSkipLeft_ == 0) {
+      Memo& m = memos_[nextMemo_++ % memos_.size()];
+      m.bytes = runStart_;
+      m.length = length;
+      std::memcpy(&m.prefix, runStart_, 8);
+      m.format = state_.format;
+    }
+    runStart_ = nullptr;
+  }
+
+  bool replayFormatRun() {
+    if (state_.destination != Destination::Text || unicodeSkipLeft_ != 0 || runStart_ || end_ - p_ < 8) return false;
+    std::uint64_t prefix;
+    std::memcpy(&prefix, p_, 8);
+    for (const Memo& m : memos_) {
+      if (m.length == 0 || m.prefix != prefix || m.length > static_cast<std::size_t>(end_ - p_)) continue;
+      if (std::memcmp(p_, m.bytes, m.length) != 0) continue;
+      state_.format = m.format;
+      refreshCodePage();
+      formatDirty_ = true;
+      p_ += m.length;
+      return true;
+    }
+    return false;
+  }
+
+  void forgetFormatRuns() {
+    for (Memo& m : memos_) m.length = 0;
+  }
+
   // ---- font and colour tables ------------------------------------------------------------
   void commitFont() {
     if (fontNumber_ != INT_MIN) {
+      forgetFormatRuns();
       std::string name = fontName_;
       const auto first = name.find_first_not_of(' ');
       name = first == std::string::npos ? std::string() : name.substr(first);
@@ -453,6 +531,7 @@ class Reader {
   }
 
   void commitColour() {
+    forgetFormatRuns();
     colours_.push_back(colour_.given ? colour_.rgb : kAutoColour);
     colour_ = {};
   }
@@ -472,6 +551,13 @@ class Reader {
     }
     while (!doc_.runs.empty() && doc_.runs.back().start >= doc_.text.size()) doc_.runs.pop_back();
   }
+
+  struct Memo {
+    const char* bytes = nullptr;
+    std::size_t length = 0;  // 0: empty
+    std::uint64_t prefix = 0;
+    RtfCharFormat format;
+  };
 
   struct PendingColour {
     std::uint32_t rgb = 0;
@@ -500,6 +586,12 @@ class Reader {
   // colour table
   std::vector<std::uint32_t> colours_;
   PendingColour colour_;
+  // runs of format words, and the ones already seen
+  const char* wordStart_ = nullptr;
+  const char* runStart_ = nullptr;
+  unsigned runFields_ = 0;
+  std::array<Memo, 8> memos_{};
+  std::size_t nextMemo_ = 0;
   // interned formats
   std::unordered_map<std::uint64_t, std::uint32_t> formatIndexes_;
   std::uint64_t lastKey_ = ~0ull;

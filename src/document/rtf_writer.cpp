@@ -32,6 +32,24 @@ void appendHex(std::string& out, unsigned char b) {
   out += kDigits[b & 15];
 }
 
+// A font name as a font table entry: the RTF specials escaped, ";" (which ends the entry) left
+// out, characters outside ASCII as \'hh.
+std::string fontEntryName(const std::string& name) {
+  std::string out;
+  for (const char ch : name) {
+    const auto c = static_cast<unsigned char>(ch);
+    if (c == '\\' || c == '{' || c == '}') {
+      out += '\\';
+      out += ch;
+    } else if (c >= 0x80) {
+      appendHex(out, c);
+    } else if (c >= 0x20 && c != ';') {
+      out += ch;
+    }
+  }
+  return out;
+}
+
 // The header and the attribute string of every style of the table.
 struct Tables {
   std::string header;
@@ -40,7 +58,7 @@ struct Tables {
   Tables(const StyleTable& table, int indentTwips) : attributes(StyleTable::kStyleCount) {
     std::map<std::string, int> fonts{{table.defaultFormat().fontName, 0}};
     std::map<std::uint32_t, int> colours;
-    std::string fontTable = "{\\fonttbl{\\f0\\fnil " + table.defaultFormat().fontName + ";}";
+    std::string fontTable = "{\\fonttbl{\\f0\\fnil " + fontEntryName(table.defaultFormat().fontName) + ";}";
     std::string colourTable = "{\\colortbl;";
     for (int s : table.styles()) {
       const StyleFormat& f = table.format(s);
@@ -49,7 +67,7 @@ struct Tables {
         font = fonts.emplace(f.fontName, static_cast<int>(fonts.size())).first;
         fontTable += "{\\f";
         appendNumber(fontTable, font->second);
-        fontTable += "\\fnil " + f.fontName + ";}";
+        fontTable += "\\fnil " + fontEntryName(f.fontName) + ";}";
       }
       int colour = 0;
       if (f.colour != kAutoColour) {

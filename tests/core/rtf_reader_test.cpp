@@ -144,3 +144,24 @@ TEST(RtfReader, TextThatIsNotRichTextLoadsAsItIs) {
   EXPECT_EQ(textOf(""), "");
   EXPECT_EQ(textOf("\r\n {\\rtf1 a}"), "a");  // blank lines before the header are allowed
 }
+
+TEST(RtfReader, RepeatedAttributeStringsGiveTheSameFormatEveryTime) {
+  const std::string a = "\\f1\\fs20\\cf1\\b\\i0\\strike0\\ul0 ";
+  const auto doc = readRtf("{\\rtf1{\\fonttbl{\\f0 A;}{\\f1 B;}}{\\colortbl;\\red9\\green0\\blue0;}" + a + "x\\par " +
+                           "\\plain y\\par " + a + "z\\par \\f1\\fs20\\cf1\\b\\i0\\strike0\\ul01 w\\par " +
+                           "{\\b0 " + a + "v}u}");
+  ASSERT_EQ(doc.text, "x\r\ny\r\nz\r\nw\r\nvu");
+  for (const char c : {'x', 'z', 'v'}) {
+    const auto& f = formatAt(doc, doc.text.find(c));
+    EXPECT_EQ(f.font, 1) << c;
+    EXPECT_EQ(f.colour, 9u) << c;
+    EXPECT_TRUE(f.bold) << c;
+    EXPECT_FALSE(f.underline) << c;
+  }
+  EXPECT_FALSE(formatAt(doc, doc.text.find('y')).bold);
+  EXPECT_TRUE(formatAt(doc, doc.text.find('w')).underline);  // "\ul01" is not the string seen before
+  EXPECT_EQ(formatAt(doc, doc.text.find('u')), formatAt(doc, doc.text.find('w')));  // restored at the group's end
+  // A word after the attribute string is not part of it, however often the pair repeats.
+  const std::string t = "\\plain\\f0\\fs20 \\tab x";
+  EXPECT_EQ(readRtf("{\\rtf1 " + t + t + t + "\\plain\\f0\\fs20 \\'e9}").text, "\tx\tx\tx\xE9");
+}

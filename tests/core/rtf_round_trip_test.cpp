@@ -95,3 +95,13 @@ TEST(RtfRoundTrip, UnformattedTextTakesTheDefaultStyle) {
   const auto bare = readRtf("{\\rtf1 N10}");
   EXPECT_EQ(styleDocument(bare, table).styles, std::string(3, '\0'));
 }
+
+TEST(RtfRoundTrip, FontNamesWithRtfSpecialsComeBack) {
+  StyleTable table(makeFormat("Courier New", 20, kAutoColour));
+  const int odd = table.styleFor(makeFormat("Odd\\{Font} \xC9", 20, kAutoColour));
+  const std::string text = "X1";
+  const std::string styles(2, static_cast<char>(odd));
+  const Loaded back = reload(writeRtf({text, styles, nullptr, 0}, table), table.defaultFormat());
+  ASSERT_EQ(back.doc.text, text);
+  EXPECT_EQ(back.table.format(static_cast<unsigned char>(back.styling.styles[0])).fontName, "Odd\\{Font} \xC9");
+}
