@@ -41,6 +41,9 @@ std::optional<std::string> readWholeFile(const std::string& path) {
   std::FILE* f = std::fopen(nativePath(path).c_str(), "rb");
   if (!f) return std::nullopt;
   std::string out;
+  std::error_code ec;
+  const auto size = fs::file_size(nativePath(path), ec);
+  if (!ec) out.reserve(static_cast<std::size_t>(size));  // one allocation for large files
   std::array<char, 65536> buf;
   size_t n;
   while ((n = std::fread(buf.data(), 1, buf.size(), f)) > 0) out.append(buf.data(), n);

@@ -1,0 +1,53 @@
+#pragma once
+// What the rich-text reader makes of a document: its text in the editor's one-byte form
+// (Windows-1252, paragraphs separated by CR LF), the character formats of its runs and the
+// left indent of its paragraphs.
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace lathwick {
+
+// Colours are kept as 0x00BBGGRR, the order the scheme records and the text control use.
+inline constexpr std::uint32_t kAutoColour = 0xFFFFFFFFu;
+inline constexpr int kDefaultHalfPoints = 24;  // 12 points, what RTF means when no \fs is given
+
+struct RtfFont {
+  std::string name;
+  int codePage = 0;  // 0: the document's code page
+};
+
+struct RtfCharFormat {
+  int font = -1;  // font number of the font table; -1 when the document names none
+  int halfPoints = kDefaultHalfPoints;
+  std::uint32_t colour = kAutoColour;
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+  bool strike = false;
+  bool operator==(const RtfCharFormat&) const = default;
+};
+
+// A run starts at `start` and lasts until the next run starts (or the text ends).
+struct RtfRun {
+  std::size_t start;
+  std::uint32_t format;  // index into RtfDocument::formats
+};
+
+struct RtfDocument {
+  std::string text;
+  std::map<int, RtfFont> fonts;        // by font number
+  std::vector<RtfCharFormat> formats;  // each distinct format once
+  std::vector<RtfRun> runs;            // in text order, the first at 0 when there is text
+  int indentTwips = 0;                 // \li of the first paragraph that holds text
+
+  // The name of a font number, or "" when the font table does not have it.
+  std::string fontName(int number) const {
+    const auto it = fonts.find(number);
+    return it == fonts.end() ? std::string() : it->second.name;
+  }
+};
+
+}  // namespace lathwick

@@ -1,0 +1,40 @@
+#pragma once
+// Where the styles of a document come from since it was loaded: stretches of the styles it was
+// loaded with, and stretches of text edited since. Saving then copies the loaded styles and
+// asks the control only for the edited stretches, instead of reading every style back.
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lathwick {
+
+class StylePieces {
+ public:
+  void reset(std::size_t length);                 // the whole document as loaded
+  void erase(std::size_t position, std::size_t length);
+  void insert(std::size_t position, std::size_t length);
+
+  std::size_t pieceCount() const { return pieces_.size(); }
+  // True while the document is exactly as loaded.
+  bool unchanged(std::size_t length) const;
+
+  // The styles of the whole document (`length` characters): loaded stretches are copied from
+  // `loaded` (empty: all style 0), edited ones filled by `readBack(position, count, out)`.
+  std::string assemble(std::string_view loaded, std::size_t length,
+                       const std::function<void(std::size_t, std::size_t, char*)>& readBack) const;
+
+ private:
+  struct Piece {
+    bool loaded;
+    std::size_t start;  // offset in the loaded styles (loaded pieces only)
+    std::size_t length;
+  };
+  // Splits so that a piece starts at `position`; returns that piece's index.
+  std::size_t splitAt(std::size_t position);
+
+  std::vector<Piece> pieces_;
+};
+
+}  // namespace lathwick
