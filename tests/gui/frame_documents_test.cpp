@@ -4,7 +4,6 @@
 #include "document/document_table.h"
 #include "document/paths.h"
 #include "platform/bytes.h"
-#include "document/gui/text_control_factory.h"
 #include "frame_fixture.h"
 #include "shell/gui/menu_set.h"
 #include "support/temp_dir.h"
@@ -57,18 +56,12 @@ TEST_F(FrameTest, EmptyOrMissingFilesOpenNoWindow) {
   EXPECT_TRUE(frame->documents().openIndexes().empty());
 }
 
-TEST_F(FrameTest, RichTextFilesAreReadAsRichTextOrRefusedWithoutAnEmptyWindow) {
+TEST_F(FrameTest, RichTextFilesAreReadAsRichText) {
   const std::string path = files.write("x.rtf", "{\\rtf1\\ansi G01 X5\\par}");
   start();
   gui::frmEditor* e = openFile(path);
-  if (gui::textControlSupportsRichText()) {
-    ASSERT_NE(e, nullptr);
-    EXPECT_EQ(e->rtfTextBox().text().substr(0, 6), "G01 X5");
-  } else {
-    EXPECT_EQ(e, nullptr);
-    ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_TRUE(frame->editors().empty());
-  }
+  ASSERT_NE(e, nullptr);
+  EXPECT_EQ(e->rtfTextBox().text().substr(0, 6), "G01 X5");
   // The ".RTF" rule looks at the end of the name only: this one is plain text.
   gui::frmEditor* plain = openFile(files.write("x.rtf.nc", "{\\rtf1 x}"));
   ASSERT_NE(plain, nullptr);
@@ -76,7 +69,6 @@ TEST_F(FrameTest, RichTextFilesAreReadAsRichTextOrRefusedWithoutAnEmptyWindow) {
 }
 
 TEST_F(FrameTest, SaveAsRichTextWritesRichTextThatLoadsBack) {
-  if (!gui::textControlSupportsRichText()) GTEST_SKIP() << "the text control holds plain text only";
   const std::string path = files.write("part.nc", "G00 X1\r\nG01 Y2\r\n");
   start();
   gui::frmEditor* e = openFile(path);

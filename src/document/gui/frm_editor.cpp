@@ -12,7 +12,7 @@
 
 #include "document/document_table.h"
 #include "format/scheme_data_file.h"
-#include "document/gui/text_control_factory.h"
+#include "document/gui/rich_text_control.h"
 #include "document/selection_length.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/menu_set.h"
@@ -24,7 +24,7 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  text_ = makeTextControl(this);
+  text_ = new RichTextControl(this);
   layout->addWidget(text_->widget());
   setFocusProxy(text_->widget());
 

@@ -1,6 +1,5 @@
 #include "document/gui/rich_text_control.h"
 
-#ifdef LATHWICK_HAS_RICH_TEXT_BOX
 #include <QColor>
 #include <QTimer>
 
@@ -87,4 +86,3 @@ std::int32_t RichTextControl::background() const {
 }
 
 }  // namespace lathwick::gui
-#endif

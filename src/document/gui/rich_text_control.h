@@ -1,8 +1,6 @@
 #pragma once
-// The document's text control as the rich text control (formats, rich-text load and save). It is
-// built only when the rich text control is part of the program.
-#if __has_include("platform/gui/rich_text_box.h")
-#define LATHWICK_HAS_RICH_TEXT_BOX 1
+// The document's text control: the rich text control (formats, rich-text load and save) behind
+// the window's text-control interface.
 #include "document/gui/text_control.h"
 
 namespace lathwick {
@@ -53,4 +51,3 @@ class RichTextControl : public TextControl {
 };
 
 }  // namespace lathwick::gui
-#endif

@@ -16,7 +16,6 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
-#include "document/gui/text_control_factory.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
@@ -101,8 +100,7 @@ void MDIForm1::registerCommands() {
   }));
   commands_.add("mnuSave", withEditor([](frmEditor& e) { e.Save(); }));
   commands_.add("mnuSaveAsTXT", withEditor([this](frmEditor& e) { saveAsPlain(e); }));
-  if (textControlSupportsRichText())
-    commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
+  commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
 
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
   commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
