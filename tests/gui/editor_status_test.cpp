@@ -52,20 +52,6 @@ TEST_F(FrameTest, SelectionAndEditsDriveTheEnablingRules) {
   EXPECT_EQ(e->rtfTextBox().text(), lines(3));
 }
 
-TEST_F(FrameTest, OnlyOneWindowIsFileUndoable) {
-  start();
-  trigger("mnuNew");
-  gui::frmEditor* a = frame->activeEditor();
-  trigger("mnuNew");
-  gui::frmEditor* b = frame->activeEditor();
-  a->setFileUndoable(true);
-  b->setFileUndoable(true);
-  EXPECT_FALSE(a->FileUndoable());
-  EXPECT_TRUE(b->FileUndoable());
-  b->rtfTextBox().replaceSelection("x");  // a hand edit gives undo back to the control
-  EXPECT_FALSE(b->FileUndoable());
-}
-
 TEST_F(FrameTest, AltArrowsScrollEveryWindowAndAltPageAlignsTheOthers) {
   start();
   frame->resize(900, 700);

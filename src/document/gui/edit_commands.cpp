@@ -5,8 +5,8 @@
 #include "document/case_change.h"
 #include "document/document_table.h"
 #include "document/gui/frm_editor.h"
+#include "document/gui/rich_text_control.h"
 #include "platform/bytes.h"
-#include "platform/errors.h"
 #include "shell/gui/mdi_form.h"
 
 namespace lathwick::gui {
@@ -15,20 +15,10 @@ QClipboard& clipboard() { return *QGuiApplication::clipboard(); }
 }  // namespace
 
 void frmEditor::Undo() {
-  if (!fileUndoable_) {
-    text_->undo();
-    En_Dis_able();
-    return;
-  }
-  // The undo file holds the document as it was before its last whole-text transformation.
-  const bool changed = record().changed;
-  try {
-    text_->loadFile(frame_.values().UndoFile, TextKind::Rich);
-  } catch (const AppError& e) {
-    frame_.dialogs().message(e.description(), frame_.windowTitle().toStdString(), Buttons::Ok, Icon::Information);
-  }
-  record().changed = changed;
-  fileUndoable_ = false;
+  // From the undo file when the last whole-text change was this window's (its changed flag kept
+  // as it was), otherwise the control's own last edit.
+  UndoDocument(rich_->box(), undoable_, record().changed, defaultTextStyle(), frame_.values().UndoFile);
+  ShowLineNum();
   En_Dis_able();
 }
 

@@ -11,20 +11,21 @@
 #include <QVBoxLayout>
 
 #include "document/document_table.h"
-#include "format/scheme_data_file.h"
 #include "document/gui/rich_text_control.h"
 #include "document/selection_length.h"
+#include "format/scheme_data_file.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 
 namespace lathwick::gui {
 
-frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag) {
+frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  text_ = new RichTextControl(this);
+  rich_ = new RichTextControl(this);
+  text_ = rich_;
   layout->addWidget(text_->widget());
   setFocusProxy(text_->widget());
 
@@ -57,9 +58,32 @@ void frmEditor::prepare() {
 }
 
 void frmEditor::setFileUndoable(bool undoable) {
-  if (undoable)
-    for (frmEditor* other : frame_.editors()) other->fileUndoable_ = false;
-  fileUndoable_ = undoable;
+  undoable_.set(undoable);  // the group clears every other window's claim
+  En_Dis_able();
+}
+
+DefaultTextStyle frmEditor::defaultTextStyle() const {
+  DefaultTextStyle style;
+  if (const SchemeRecord* scheme = frame_.currentSchemeRecord()) {
+    const SchemeStyle& text = scheme->style(0, kOtherTextStyle);
+    if (!text.fontName.empty()) style.fontName = text.fontName;
+    style.sizePoints = text.size;
+    style.foreColour = static_cast<std::uint32_t>(text.colour);
+    style.backColour = static_cast<std::uint32_t>(scheme->backColour);
+    style.bold = text.bold;
+    style.italic = text.italic;
+    style.underline = text.underline;
+    style.indentTwips = scheme->indentSteps() * 200;
+  }
+  return style;
+}
+
+bool frmEditor::reloadDocument(const std::string& path, TextKind kind) {
+  const bool done = ::lathwick::ReloadDocument(rich_->box(), path,
+                                               kind == TextKind::Rich ? FileKind::RichText : FileKind::PlainText,
+                                               defaultTextStyle(), frame_.values().UndoFile);
+  ShowLineNum();
+  return done;
 }
 
 void frmEditor::ShowLineNum() {
@@ -75,7 +99,7 @@ void frmEditor::En_Dis_able() {
   const bool selection = selectionLength() >= 1;
   for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
     menus_->setEnabled(name, selection);
-  menus_->setEnabled("mnuUndo", fileUndoable_ || text_->canUndo());
+  menus_->setEnabled("mnuUndo", undoable_.get() || text_->canUndo());
   frame_.En_Dis_able();
 }
 
@@ -90,7 +114,7 @@ void frmEditor::Form_Activate() {
 
 void frmEditor::onTextChanged() {
   record().changed = true;
-  fileUndoable_ = false;  // after a hand edit, undo falls back to the control's own
+  undoable_.set(false);  // after a hand edit, undo falls back to the control's own
   En_Dis_able();
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "document/gui/reload_document.h"
 #include "document/gui/text_control.h"
 
 namespace lathwick {
@@ -16,6 +17,7 @@ namespace lathwick::gui {
 
 class MDIForm1;
 class MenuSet;
+class RichTextControl;
 
 class frmEditor : public QWidget {
   Q_OBJECT
@@ -35,8 +37,15 @@ class frmEditor : public QWidget {
   int LineCount() const { return text_->lineCount(); }
   int selectionLength() const;  // corrected: never negative
   int currentLine() const { return text_->lineFromChar(text_->selStart()); }
-  bool FileUndoable() const { return fileUndoable_; }
+  bool FileUndoable() const { return undoable_.get(); }
   void setFileUndoable(bool undoable);  // true clears the flag on every other window first
+
+  // The one way a whole-document result enters the window: the present text goes to the undo
+  // file first (unless the undo file itself is loaded) and the view is kept. False when the load
+  // did not complete. The caller marks the window file-undoable afterwards.
+  bool reloadDocument(const std::string& path, TextKind kind);
+  // The scheme's default text style a reload starts from.
+  DefaultTextStyle defaultTextStyle() const;
 
   void ShowLineNum();
   void En_Dis_able();
@@ -77,9 +86,10 @@ class frmEditor : public QWidget {
 
   MDIForm1& frame_;
   int tag_;
+  RichTextControl* rich_;
   TextControl* text_;
   std::unique_ptr<MenuSet> menus_;
-  bool fileUndoable_ = false;
+  lathwick::FileUndoable undoable_;
   std::string cutLine_;
 };
 

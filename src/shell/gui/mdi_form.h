@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "document/document_table.h"
+#include "document/gui/reload_document.h"
 #include "format/scheme_record.h"
 #include "shell/command_dispatch.h"
 #include "shell/gui/dialogs.h"
@@ -87,6 +88,9 @@ class MDIForm1 : public QMainWindow {
   void setCurrentScheme(std::int16_t scheme) { currentScheme_ = scheme; }
   const std::string& lastPath() const { return lastPath_; }
 
+  // The windows that share the one undo file.
+  FileUndoGroup& undoGroup() { return undoGroup_; }
+
   void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
   Dialogs& dialogs() { return *dialogs_; }
 
@@ -131,6 +135,7 @@ class MDIForm1 : public QMainWindow {
   std::unique_ptr<QtDialogs> ownDialogs_;
   Dialogs* dialogs_;
   CommandDispatcher commands_;
+  FileUndoGroup undoGroup_;  // before the windows, which leave it as they go
   DocumentTable documents_;
   std::map<int, frmEditor*> windows_;  // by document index
   QMdiArea* mdi_;
