@@ -42,6 +42,8 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoa
 
 frmEditor::~frmEditor() = default;
 
+RichTextBox& frmEditor::richTextBox() const { return rich_->box(); }
+
 DocumentRecord& frmEditor::record() const { return frame_.documents().record(tag_); }
 
 std::string frmEditor::filename() const { return record().fileName; }

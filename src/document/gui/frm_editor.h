@@ -11,6 +11,7 @@
 
 namespace lathwick {
 struct DocumentRecord;
+class RichTextBox;
 }
 
 namespace lathwick::gui {
@@ -28,6 +29,7 @@ class frmEditor : public QWidget {
   int tag() const { return tag_; }
   DocumentRecord& record() const;
   TextControl& rtfTextBox() const { return *text_; }
+  RichTextBox& richTextBox() const;  // the control itself, formats and all
   MenuSet& menus() const { return *menus_; }
 
   // The preparation routine: brings the window up before its text arrives.
@@ -51,6 +53,10 @@ class frmEditor : public QWidget {
   void En_Dis_able();
   void Form_Activate();
   void Save();
+
+  // Colours the document by modes (0) or codes (1), or reloads it as it is (2), through the work
+  // files and reloadDocument.
+  void Colorize(int view);
 
   // Fills the scheme menu from the scheme data file, the document's own scheme checked.
   void LoadMenuArray();

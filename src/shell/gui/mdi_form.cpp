@@ -19,6 +19,7 @@
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
+#include "shell/gui/frm_prog.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 
@@ -102,6 +103,9 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuSaveAsTXT", withEditor([this](frmEditor& e) { saveAsPlain(e); }));
   commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
 
+  commands_.add("mnuModal", [this](int index) {
+    if (frmEditor* editor = activeEditor()) editor->Colorize(index);
+  });
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
   commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
   commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));
@@ -334,7 +338,16 @@ void MDIForm1::onBookmark(int number, Qt::MouseButton button) {
   }
 }
 
+frmProg& MDIForm1::progressForm() {
+  if (!progress_) progress_ = new frmProg(this, cancel_);
+  return *progress_;
+}
+
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (passRunning_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    cancel_ = true;  // Esc stops a running pass wherever the focus is
+    return true;
+  }
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
     // The X server reports the lock keys in the modifier state of every key event.
     const quint32 state = static_cast<QKeyEvent*>(event)->nativeModifiers();

@@ -111,10 +111,10 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     DocumentRecord& record = documents_.record(index);
     record.fileName = fileName;
     editor->setWindowTitle(q(captionAfterLoad(fileName)));
+    applyAutoFormat();
     recentListUpdate(fileName);
     record.changed = false;
     editor->ShowLineNum();
-    applyAutoFormat();
     // The script procedure "LoadDoc" is called here once macros are available.
     return editor;
   } catch (const AppError& e) {
