@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include "document/gui/frm_editor.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
@@ -32,6 +33,14 @@ int main(int argc, char** argv) {
   const QPointer<lathwick::gui::MDIForm1> guard(frame);
   if (frame) frame->openStartupFile();
   if (!screenshot.isEmpty() && frame) {
+    // The picture for the documentation: the program coloured by modes beside a second copy
+    // coloured by codes.
+    if (frame->activeEditor()) {
+      frame->commands().run("mnuModal", 0);
+      frame->LoadDoc(frame->activeEditor()->filename());
+      frame->commands().run("mnuModal", 1);
+      frame->commands().run("mnuTileVert");
+    }
     QTimer::singleShot(1500, frame, [frame, screenshot] {
       frame->grab().save(screenshot);
       frame->close();
