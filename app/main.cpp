@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include "document/document_table.h"
 #include "document/gui/frm_editor.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
@@ -43,6 +44,8 @@ int main(int argc, char** argv) {
     }
     QTimer::singleShot(1500, frame, [frame, screenshot] {
       frame->grab().save(screenshot);
+      // The colours changed the documents; the picture is all that was wanted of them.
+      for (lathwick::gui::frmEditor* editor : frame->editors()) editor->record().changed = false;
       frame->close();
       QApplication::quit();
     });
