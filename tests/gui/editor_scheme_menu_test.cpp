@@ -23,19 +23,25 @@ TEST_F(FrameTest, SchemeMenuListsTheSchemesWithTheDocumentsOwnChecked) {
     ASSERT_NE(entry, nullptr) << i;
     EXPECT_EQ(entry->text().toStdString(), list.entries[i].name);
     EXPECT_EQ(entry->isChecked(), i == 1) << i;
-    EXPECT_FALSE(entry->isEnabled());  // applying a scheme needs the colorizer in the window
+    EXPECT_TRUE(entry->isEnabled());
   }
   EXPECT_EQ(e->Scheme(), list.entries[1].name);
   // Activation puts the scheme's page colour behind the text.
   EXPECT_EQ(e->rtfTextBox().background(), loadScheme(values.DataFilePath, 2).backColour & 0xFFFFFF);
 
-  std::vector<int> chosen;
-  frame->commands().add("mnuScheme", [&](int index) { chosen.push_back(index); });
-  frame->refreshAvailability();
-  EXPECT_TRUE(frame->menuAction("mnuScheme", 1)->isEnabled());
-  e->setScheme(list.entries[0].name);
+  // Choosing another scheme gives the document that scheme and colours it in it.
+  trigger("mnuScheme", 1);
+  EXPECT_EQ(e->record().scheme, 1);
+  EXPECT_EQ(e->Scheme(), list.entries[0].name);
+  EXPECT_TRUE(frame->menuAction("mnuScheme", 1)->isChecked());
+  EXPECT_FALSE(frame->menuAction("mnuScheme", 2)->isChecked());
+  EXPECT_EQ(e->rtfTextBox().background(), loadScheme(values.DataFilePath, 1).backColour & 0xFFFFFF);
+  EXPECT_TRUE(e->FileUndoable());
+  // Scripts choose by caption; an unknown caption changes nothing.
   e->setScheme("no such scheme");
-  EXPECT_EQ(chosen, std::vector<int>{1});
+  EXPECT_EQ(e->record().scheme, 1);
+  e->setScheme(list.entries[1].name);
+  EXPECT_EQ(e->record().scheme, 2);
   EXPECT_TRUE(dialogs.messages.empty());
 }
 

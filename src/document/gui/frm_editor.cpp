@@ -151,6 +151,17 @@ void frmEditor::LoadMenuArray() {
   }
 }
 
+void frmEditor::applyScheme(int index) {
+  record().scheme = static_cast<std::int16_t>(index);
+  frame_.setCurrentScheme(record().scheme);
+  for (QAction* action : menus_->allActions())
+    if (action->objectName().startsWith(QStringLiteral("mnuScheme(")))
+      action->setChecked(action == menus_->action("mnuScheme", index));
+  if (const SchemeRecord* scheme = frame_.currentSchemeRecord())
+    text_->setColours(scheme->backColour, scheme->style(0, kOtherTextStyle).colour);
+  Colorize(0);
+}
+
 std::string frmEditor::Scheme() const {
   QAction* entry = menus_->action("mnuScheme", frame_.currentScheme());
   return entry ? entry->text().toLatin1().toStdString() : std::string();

@@ -60,6 +60,9 @@ class frmEditor : public QWidget {
 
   // Fills the scheme menu from the scheme data file, the document's own scheme checked.
   void LoadMenuArray();
+  // The scheme menu entry `index` was chosen: the document takes that scheme and is coloured
+  // in it by modes.
+  void applyScheme(int index);
   // The caption of the scheme menu entry of the current scheme ("" when there is none).
   std::string Scheme() const;
   // Chooses the scheme menu entry captioned `name` (nothing happens for an unknown name).

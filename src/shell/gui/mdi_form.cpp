@@ -106,6 +106,9 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuModal", [this](int index) {
     if (frmEditor* editor = activeEditor()) editor->Colorize(index);
   });
+  commands_.add("mnuScheme", [this](int index) {
+    if (frmEditor* editor = activeEditor()) editor->applyScheme(index);
+  });
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
   commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
   commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));
