@@ -1,0 +1,137 @@
+#include "transform/operate.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "platform/bytes.h"
+#include "platform/errors.h"
+
+namespace lathwick::transform {
+
+namespace {
+// "+" and the characters - . / and the digits make up a value; the comma does not.
+bool isValueCharacter(char c) { return c == '+' || (c >= 45 && c <= 57); }
+
+long firstPosition(std::string_view raw, const std::string& needle) {
+  if (needle.empty()) return 0;
+  const size_t p = raw.find(needle);
+  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
+}
+}  // namespace
+
+double leadingValue(std::string_view text) {
+  size_t i = 0;
+  bool negative = false;
+  if (i < text.size() && (text[i] == '+' || text[i] == '-')) negative = text[i++] == '-';
+  const size_t start = i;
+  bool digits = false;
+  while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, digits = true;
+  if (i < text.size() && text[i] == '.') {
+    ++i;
+    while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, digits = true;
+  }
+  if (!digits) return 0;
+  double v = 0;
+  const auto r = std::from_chars(text.data() + start, text.data() + i, v, std::chars_format::fixed);
+  if (r.ec == std::errc::result_out_of_range) throw makeError(err::kOverflow);
+  return negative ? -v : v;
+}
+
+OperateValidation validateOperate(const OperateEntries& entries) {
+  OperateValidation v;
+  const double value = leadingValue(trimBlanks(entries.value));
+  if (entries.op == "/" && value == 0) {
+    v.message = kDivisionByZero;
+    v.resetOperator = true;
+  } else if (entries.value.empty()) {
+    v.message = kValueRequired;
+  } else if (entries.address.empty()) {
+    v.message = kAddressRequired;
+  } else if (entries.format.empty()) {
+    v.message = kFormatRequired;
+  }
+  return v;
+}
+
+OperateLine::OperateLine(const OperateRequest& request, const RichTextFrame& frame)
+    : addresses_(request.addresses),
+      op_(request.op),
+      operand_(request.operand),
+      picture_(request.format),
+      excludeComments_(request.excludeComments),
+      open_(frame.commentOpen),
+      close_(frame.commentClose),
+      markStart_(frame.markStart),
+      markEnd_(frame.markEnd) {}
+
+double OperateLine::compute(double value) const {
+  switch (op_) {
+    case '*': return value * operand_;
+    case '+': return value + operand_;
+    case '-': return value - operand_;
+    case '/':
+      if (operand_ == 0) throw AppError(11, "Division by zero");
+      return value / operand_;
+  }
+  throw AppError(5, "Invalid procedure call or argument");
+}
+
+long OperateLine::apply(std::string_view raw, std::string& line) {
+  const long open = excludeComments_ ? firstPosition(raw, open_) : 0;
+  const long close = excludeComments_ ? firstPosition(raw, close_) : 0;
+  stretches_.clear();
+  for (const char address : addresses_) {
+    // A value character cannot be an address: its own values would overlap the others.
+    if (isValueCharacter(address)) continue;
+    size_t p = line.find(address);
+    while (p != std::string::npos) {
+      const long position = static_cast<long>(p) + 1;
+      // With an opening delimiter on the line, only letters at or before it and at or after the
+      // closing one count; so a complete comment keeps the whole line as it is.
+      if (open > 0 && !(position <= open && position >= close)) break;
+      const size_t valueStart = p + 1;
+      size_t valueEnd = valueStart;
+      while (valueEnd < line.size() && isValueCharacter(line[valueEnd])) ++valueEnd;
+      if (valueEnd == valueStart) {
+        p = line.find(address, valueStart);
+        continue;
+      }
+      const double result = compute(leadingValue(std::string_view(line).substr(valueStart, valueEnd - valueStart)));
+      number_.clear();
+      picture_.format(result, number_);
+      line.replace(valueStart, valueEnd - valueStart, number_);
+      // Values already marked further right move with the text.
+      const long shift = static_cast<long>(number_.size()) - static_cast<long>(valueEnd - valueStart);
+      if (shift != 0)
+        for (Stretch& s : stretches_)
+          if (s.start > p) s.start += shift, s.end += shift;
+      stretches_.push_back({valueStart, valueStart + number_.size()});
+      p = line.find(address, valueStart + number_.size());
+    }
+  }
+  if (stretches_.empty()) return 0;
+  std::sort(stretches_.begin(), stretches_.end(), [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
+  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
+  return static_cast<long>(stretches_.size());
+}
+
+PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,
+                      const RichTextFrame& frame, PassMonitor& monitor) {
+  RichPassSettings settings;
+  settings.statusText = kOperatingStatus;
+  settings.countPhrase = kOperationsPhrase;
+  settings.errorEnding = kOperateErrorEnding;
+  settings.displayLineCount = request.displayLineCount;
+  if (!NumericPicture::isValid(request.format)) {
+    PassResult r;
+    r.outcome = PassOutcome::Failed;
+    r.errorNumber = 5;
+    r.errorDescription = "Invalid procedure call or argument";
+    r.message = passErrorMessage(r.errorNumber, r.errorDescription, settings.errorEnding);
+    return r;
+  }
+  OperateLine transform(request, frame);
+  return runRichPass(inPath, outPath, frame, request.range, transform, settings, monitor);
+}
+
+}  // namespace lathwick::transform
