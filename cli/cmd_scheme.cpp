@@ -1,7 +1,47 @@
+// scheme list|header|dump: the records of a scheme data file as the editor reads them.
+#include <cstdio>
+#include <string>
+
 #include "commands.h"
+#include "format/scheme_data_file.h"
+#include "options.h"
+#include "platform/bytes.h"
+#include "format/scheme_json.h"
 
 namespace lathwick::cli {
 
-int cmdScheme(const Args&) { return notAvailable("scheme"); }
+namespace {
+
+int listSchemes(const std::string& dataFile) {
+  const SchemeList list = loadSchemeList(dataFile, 1);
+  for (const auto& e : list.entries) std::printf("%ld\t%s\n", e.record, e.name.c_str());
+  if (list.dataFileProblem) {
+    std::fprintf(stderr, "%s\n", kDataFileProblemMessage);
+    return kExitRefused;
+  }
+  return kExitOk;
+}
+
+}  // namespace
+
+int cmdScheme(const Args& args) {
+  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({}), 1, "list, header or dump");
+  const std::string action = p.positionals().front();
+  if (action != "list" && action != "header" && action != "dump")
+    throw UsageError("unknown action '" + action + "': expected list, header or dump");
+  const std::string dataFile = p.valueOr("--data", bundledDataFilePath());
+  const long n = parseInteger("--scheme", p.valueOr("--scheme", "1"));
+  if (action == "list") return listSchemes(dataFile);
+  try {
+    const SchemeRecord record = readSchemeRecord(dataFile, n);
+    const std::string text = action == "header" ? trimRightBlanks(record.rtfHeader) : schemeJson(record, n);
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::fputc('\n', stdout);
+  } catch (const DataFileProblem& e) {
+    std::fprintf(stderr, "%s\n", e.what());
+    return kExitRefused;
+  }
+  return kExitOk;
+}
 
 }  // namespace lathwick::cli
