@@ -21,19 +21,17 @@ Counts countBreaks(const std::string& path) {
   if (!f) throw makeError(err::kFileNotFound);
   Counts c;
   std::array<char, 1 << 16> buf;
-  char previous = 0;
+  char previous = 0;  // last byte of the previous block, for a CR LF split across blocks
   size_t n;
   while ((n = std::fread(buf.data(), 1, buf.size(), f)) > 0) {
-    for (size_t i = 0; i < n; ++i) {
-      const char ch = buf[i];
-      if (ch == '\n') {
-        ++c.lf;
-        if (previous == '\r') c.anyCrLf = true;
-      } else if (ch == '\r') {
-        c.anyCr = true;
-      }
-      previous = ch;
+    const char* data = buf.data();
+    if (!c.anyCr) c.anyCr = std::memchr(data, '\r', n) != nullptr;
+    for (const char* p = data; (p = static_cast<const char*>(std::memchr(p, '\n', n - (p - data))));
+         ++p) {
+      ++c.lf;
+      if (!c.anyCrLf && (p == data ? previous : p[-1]) == '\r') c.anyCrLf = true;
     }
+    previous = data[n - 1];
   }
   std::fclose(f);
   return c;

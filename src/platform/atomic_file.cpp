@@ -26,7 +26,8 @@ AppError errorFromErrno(int e) {
 }
 }  // namespace
 
-AtomicFileWriter::AtomicFileWriter(const std::string& path) : target_(nativePath(path)) {
+AtomicFileWriter::AtomicFileWriter(const std::string& path, Durability durability)
+    : target_(nativePath(path)), durability_(durability) {
   std::vector<char> name(target_.begin(), target_.end());
   const std::string suffix = ".lwtmp-XXXXXX";
   name.insert(name.end(), suffix.begin(), suffix.end());
@@ -73,7 +74,7 @@ void AtomicFileWriter::commit() {
   if (!file_) return;
   int e = 0;
   if (failed_ || std::fflush(file_) != 0) e = errno ? errno : EIO;
-  if (!e && ::fsync(::fileno(file_)) != 0) e = errno;
+  if (!e && durability_ == Durability::Durable && ::fsync(::fileno(file_)) != 0) e = errno;
   std::fclose(file_);
   file_ = nullptr;
   if (!e && ::rename(temp_.c_str(), target_.c_str()) != 0) e = errno;

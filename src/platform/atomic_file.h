@@ -7,9 +7,14 @@
 
 namespace lathwick {
 
+// Durable writes are flushed to the disk before the rename, so that even a power cut leaves the
+// old or the new file; scratch work files (rebuilt on every pass) skip that wait.
+enum class Durability { Durable, Scratch };
+
 class AtomicFileWriter {
  public:
-  explicit AtomicFileWriter(const std::string& path);  // throws AppError when it cannot create
+  // Throws AppError when it cannot create the temporary file.
+  explicit AtomicFileWriter(const std::string& path, Durability durability = Durability::Durable);
   ~AtomicFileWriter();                                  // without commit() the target is untouched
   AtomicFileWriter(const AtomicFileWriter&) = delete;
   AtomicFileWriter& operator=(const AtomicFileWriter&) = delete;
@@ -24,6 +29,7 @@ class AtomicFileWriter {
   std::string temp_;
   std::FILE* file_ = nullptr;
   bool failed_ = false;
+  Durability durability_;
 };
 
 // Whole-file convenience: writes bytes atomically; throws AppError on failure.

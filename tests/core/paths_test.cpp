@@ -1,0 +1,66 @@
+// Path helpers: names, folders, extensions, shortened captions, and the existence test.
+#include <gtest/gtest.h>
+
+#include "document/paths.h"
+#include "shell/app_folder.h"
+#include "support/temp_dir.h"
+
+using namespace lathwick;
+
+TEST(Paths, FileNameOfAndPathOfTrimInPlace) {
+  std::string p = "  C:\\Jobs\\part.nc ";
+  EXPECT_EQ(FileNameOf(p), "part.nc");
+  EXPECT_EQ(p, "C:\\Jobs\\part.nc");
+  std::string bare = "part.nc";
+  EXPECT_EQ(FileNameOf(bare), "");  // deliberately not the whole name
+  EXPECT_EQ(PathOf(bare), "part.nc");
+  std::string drive = "C:part.nc";
+  EXPECT_EQ(FileNameOf(drive), "part.nc");
+  std::string unix = " /home/m/jobs/a.nc";
+  EXPECT_EQ(PathOf(unix), "/home/m/jobs/");
+  EXPECT_EQ(unix, "/home/m/jobs/a.nc");
+}
+
+TEST(Paths, ChangeExtensionOverwritesOnlyAThreeLetterExtension) {
+  std::string a = "a.txt", b = "a.nc", c = "x.html", d = "ab";
+  ChangeExtension(a, "RTF");
+  ChangeExtension(b, "RTF");
+  ChangeExtension(c, "RTF");
+  ChangeExtension(d, "RTF");
+  EXPECT_EQ(a, "a.RTF");
+  EXPECT_EQ(b, "a.nc.RTF");
+  EXPECT_EQ(c, "x.html.RTF");
+  EXPECT_EQ(d, "ab.RTF");
+}
+
+TEST(Paths, ShortenPathSearchesFromLengthMinusMaximumPlusSix) {
+  EXPECT_EQ(ShortenPath("C:\\CNC\\Programs\\Customer\\Job42\\part.nc", 25), "C:\\ ...\\Job42\\part.nc");
+  EXPECT_EQ(ShortenPath("/short.nc", 25), "/short.nc");
+  EXPECT_EQ(ShortenPath(std::string(40, 'x'), 25), "xxx ...");  // no separator in range
+  EXPECT_EQ(ShortenPath("/home/machinist/programs/bracket/op1.nc", 25), "/ho .../bracket/op1.nc");
+}
+
+TEST(AppFolder, FileExistsOnlyForNormalFiles) {
+  test::TempDir dir;
+  dir.write("part.nc", "G0");
+  dir.write(".hidden", "x");
+  EXPECT_TRUE(FileExists(dir.file("part.nc")));
+  EXPECT_TRUE(FileExists("  " + dir.file("part.nc") + "  "));
+  EXPECT_TRUE(FileExists(dir.file("*.nc")));
+  EXPECT_FALSE(FileExists(dir.file("*.txt")));
+  EXPECT_FALSE(FileExists(dir.file(".hidden")));
+  EXPECT_FALSE(FileExists(dir.str()));      // a folder
+  EXPECT_FALSE(FileExists(dir.folder()));   // ends in a separator
+  EXPECT_FALSE(FileExists("/"));
+  EXPECT_FALSE(FileExists("C:"));
+  EXPECT_FALSE(FileExists("C:\\"));
+  EXPECT_FALSE(FileExists("    "));
+  EXPECT_FALSE(FileExists(dir.file("nope.nc")));
+}
+
+TEST(AppFolder, WithBackslashTrimsAndAddsOneSeparator) {
+  EXPECT_EQ(WithBackslash("  C:\\Jobs  "), "C:\\Jobs/");
+  EXPECT_EQ(WithBackslash("C:\\Jobs\\"), "C:\\Jobs\\");
+  EXPECT_EQ(WithBackslash("/opt/lathwick/"), "/opt/lathwick/");
+  EXPECT_EQ(WithBackslash("   "), "");
+}
