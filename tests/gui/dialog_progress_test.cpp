@@ -1,0 +1,56 @@
+// The progress form and the Qt pass monitor: the form appears only while progress runs, Esc on
+// it sets the process-wide cancel flag, and a new pass clears it.
+#include <gtest/gtest.h>
+
+#include <QProgressBar>
+
+#include "dialog_fixture.h"
+#include "transform/gui/cancel_flag.h"
+#include "transform/gui/frm_prog.h"
+#include "transform/gui/qt_pass_monitor.h"
+
+using namespace lathwick;
+using namespace lathwick::gui;
+
+TEST(ProgressForm, ShownWhileProgressRunsAndEscCancels) {
+  test::testApp();
+  QWidget frame;
+  std::vector<std::string> status;
+  QtPassMonitor monitor(nullptr, [&](const std::string& t) { status.push_back(t); }, &frame);
+  monitor.clearCancel();
+  monitor.statusText("Processing... [Esc] to cancel");
+  EXPECT_EQ(frame.findChild<frmProg*>(), nullptr);
+
+  monitor.progressStart(1000);
+  auto* form = frame.findChild<frmProg*>();
+  ASSERT_NE(form, nullptr);
+  EXPECT_TRUE(form->isVisible());
+  monitor.progressValue(250);
+  EXPECT_EQ(form->bar()->maximum(), 1000);
+  EXPECT_EQ(form->bar()->value(), 250);
+
+  QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+  QCoreApplication::sendEvent(form, &other);
+  EXPECT_FALSE(monitor.cancelRequested());
+  QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(QChar(27)));
+  QCoreApplication::sendEvent(form, &esc);
+  EXPECT_TRUE(monitor.cancelRequested());
+  EXPECT_TRUE(form->isVisible());  // the pass closes it when it stops, not the key
+
+  monitor.progressEnd();
+  EXPECT_EQ(frame.findChild<frmProg*>(), nullptr);
+  monitor.clearCancel();
+  EXPECT_FALSE(cancelRequested());
+  EXPECT_EQ(status, (std::vector<std::string>{"Processing... [Esc] to cancel"}));
+}
+
+TEST(ProgressForm, CancelFromElsewhereIsSeenByThePass) {
+  test::testApp();
+  QProgressBar bar;
+  QtPassMonitor monitor(&bar, {});
+  monitor.clearCancel();
+  requestCancel();  // for example the main window's status bar
+  EXPECT_TRUE(monitor.cancelRequested());
+  monitor.clearCancel();
+  EXPECT_FALSE(monitor.cancelRequested());
+}
