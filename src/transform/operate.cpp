@@ -84,8 +84,21 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;
     size_t p = line.find(address);
+    if (p == std::string::npos) continue;
+    // The line is rebuilt left to right into done_, which is what changing each value in place
+    // would give, without moving the rest of a long line at every value. The values marked for
+    // earlier addresses move along with the text around them.
+    done_.clear();
+    size_t cursor = 0;
+    size_t moved = 0;  // earlier stretches already carried over
+    const size_t before = stretches_.size();
+    auto carry = [&](size_t limit) {
+      const size_t shift = done_.size() - cursor;  // wraps for a shrinking line; the sum is right
+      for (; moved < before && stretches_[moved].start < limit; ++moved)
+        stretches_[moved].start += shift, stretches_[moved].end += shift;
+    };
     while (p != std::string::npos) {
-      const long position = static_cast<long>(p) + 1;
+      const long position = static_cast<long>(done_.size() + (p - cursor)) + 1;
       // With an opening delimiter on the line, only letters at or before it and at or after the
       // closing one count; so a complete comment keeps the whole line as it is.
       if (open > 0 && !(position <= open && position >= close)) break;
@@ -99,18 +112,21 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
       const double result = compute(leadingValue(std::string_view(line).substr(valueStart, valueEnd - valueStart)));
       number_.clear();
       picture_.format(result, number_);
-      line.replace(valueStart, valueEnd - valueStart, number_);
-      // Values already marked further right move with the text.
-      const long shift = static_cast<long>(number_.size()) - static_cast<long>(valueEnd - valueStart);
-      if (shift != 0)
-        for (Stretch& s : stretches_)
-          if (s.start > p) s.start += shift, s.end += shift;
-      stretches_.push_back({valueStart, valueStart + number_.size()});
-      p = line.find(address, valueStart + number_.size());
+      carry(valueStart);
+      done_.append(line, cursor, valueStart - cursor);
+      stretches_.push_back({done_.size(), done_.size() + number_.size()});
+      done_.append(number_);
+      cursor = valueEnd;
+      p = line.find(address, valueEnd);
     }
+    if (stretches_.size() == before) continue;
+    carry(std::string::npos);
+    done_.append(line, cursor, std::string::npos);
+    line.swap(done_);
+    std::inplace_merge(stretches_.begin(), stretches_.begin() + static_cast<long>(before), stretches_.end(),
+                       [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
   if (stretches_.empty()) return 0;
-  std::sort(stretches_.begin(), stretches_.end(), [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
   return static_cast<long>(stretches_.size());
 }

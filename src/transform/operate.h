@@ -70,8 +70,8 @@ class OperateLine : public RichLineTransform {
   NumericPicture picture_;
   bool excludeComments_;
   std::string open_, close_, markStart_, markEnd_;
-  std::vector<Stretch> stretches_;
-  std::string number_, scratch_;
+  std::vector<Stretch> stretches_;  // kept in order along the line
+  std::string number_, done_, scratch_;
 };
 
 // The operate pass. The caller validates first; a picture the formatter cannot read fails the

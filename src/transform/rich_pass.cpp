@@ -74,7 +74,7 @@ PassResult richLoop(const std::string& inPath, const std::string& outPath, const
   LineReader reader(inPath);
   OutputBuffer out(outPath);
   out.appendLine(trimRightBlanks(frame.header));
-  const std::string indent = std::to_string(frame.indentSteps * 200);
+  const std::string indent = std::to_string(frame.indentTwips);
   const std::string firstPrefix = "\\li" + indent + " ";
   const std::string laterPrefix = "\\par\\li" + indent + " ";
 

@@ -1,24 +1,18 @@
 #include "transform/search_match.h"
 
-#include <cstring>
-
 #include "platform/bytes.h"
 
 namespace lathwick::transform {
 
 namespace {
 
-long findExact(std::string_view line, std::string_view needle, size_t from) {
-  const size_t p = line.find(needle, from);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
+constexpr size_t kNone = std::string_view::npos;
 
-long findIgnoringCase(std::string_view line, std::string_view needle, size_t from) {
-  const char first = needle.front();
-  const char upper = asciiUpper(first);
-  const char lower = asciiLower(first);
+size_t findIgnoringCase(std::string_view line, std::string_view needle, size_t from) {
   const size_t n = needle.size();
-  if (line.size() < n) return 0;
+  if (line.size() < n) return kNone;
+  const char upper = asciiUpper(needle.front());
+  const char lower = asciiLower(needle.front());
   const size_t lastStart = line.size() - n;
   const char* data = line.data();
   for (size_t i = from; i <= lastStart; ++i) {
@@ -26,32 +20,47 @@ long findIgnoringCase(std::string_view line, std::string_view needle, size_t fro
     if (c != upper && c != lower) continue;
     size_t k = 1;
     while (k < n && asciiUpper(data[i + k]) == asciiUpper(needle[k])) ++k;
-    if (k == n) return static_cast<long>(i) + 1;
+    if (k == n) return i;
   }
-  return 0;
+  return kNone;
+}
+
+size_t findIndex(std::string_view line, std::string_view needle, size_t from, bool matchCase) {
+  if (needle.empty() || from >= line.size()) return kNone;
+  return matchCase ? line.find(needle, from) : findIgnoringCase(line, needle, from);
 }
 
 }  // namespace
 
 long findFrom(std::string_view line, std::string_view needle, long start, bool matchCase) {
-  if (needle.empty() || start < 1 || static_cast<size_t>(start) > line.size()) return 0;
-  const size_t from = static_cast<size_t>(start) - 1;
-  return matchCase ? findExact(line, needle, from) : findIgnoringCase(line, needle, from);
+  if (start < 1) return 0;
+  const size_t i = findIndex(line, needle, static_cast<size_t>(start) - 1, matchCase);
+  return i == kNone ? 0 : static_cast<long>(i) + 1;
+}
+
+size_t matchInRebuiltLine(std::string_view line, size_t cursor, std::string_view done, std::string_view find,
+                          int flags, long open, long close) {
+  // Matching case replaces the first, case-blind search altogether, so only one of them runs.
+  const size_t i = findIndex(line, find, cursor, (flags & kMatchCase) != 0);
+  if (i == kNone || flags == 0) return i;
+  // 1-based position of the occurrence in the line as changed so far.
+  const long p = static_cast<long>(done.size() + (i - cursor)) + 1;
+  if (flags & kWholeWord) {
+    char before = ' ';
+    if (p > 1) before = i == cursor ? done.back() : line[i - 1];
+    const size_t afterIndex = i + find.size();
+    const char after = afterIndex < line.size() ? line[afterIndex] : ' ';
+    if (before != ' ' || after != ' ') return kNone;
+  }
+  if ((flags & kExcludeComments) && open < p && p < close) return kNone;
+  return i;
 }
 
 long matchInLine(std::string_view line, std::string_view find, long start, int flags, long open, long close) {
-  // Matching case replaces the first, case-blind search altogether, so only one of them runs.
-  const long p = findFrom(line, find, start, (flags & kMatchCase) != 0);
-  if (flags == 0) return p;
-  if ((flags & kMatchCase) && p == 0) return 0;
-  if ((flags & kWholeWord) && p >= 1) {
-    const char before = p == 1 ? ' ' : line[p - 2];
-    const size_t afterIndex = static_cast<size_t>(p - 1) + find.size();
-    const char after = afterIndex < line.size() ? line[afterIndex] : ' ';
-    if (before != ' ' || after != ' ') return 0;
-  }
-  if ((flags & kExcludeComments) && open < p && p < close) return 0;
-  return p;
+  if (start < 1) return 0;
+  const size_t cursor = std::min(static_cast<size_t>(start) - 1, line.size());
+  const size_t i = matchInRebuiltLine(line, cursor, line.substr(0, cursor), find, flags, open, close);
+  return i == kNone ? 0 : static_cast<long>(i) + 1;
 }
 
 }  // namespace lathwick::transform

@@ -28,16 +28,23 @@ long ReplaceLine::apply(std::string_view raw, std::string& line) {
   if (find_.empty()) return 0;
   const long open = firstPosition(raw, open_);
   const long close = firstPosition(raw, close_);
-  const long replaceLength = static_cast<long>(replace_.size());
+  // The line is rebuilt left to right into done_, which is what replacing each occurrence in
+  // place would give, without moving the rest of a long line at every occurrence.
   stretches_.clear();
-  long p = matchInLine(line, find_, 1, flags_, open, close);
-  while (p > 0) {
-    const size_t at = static_cast<size_t>(p - 1);
-    stretches_.push_back({at, at + replace_.size()});
-    line.replace(at, find_.size(), replace_);
-    p = matchInLine(line, find_, p + replaceLength, flags_, open, close);
+  done_.clear();
+  size_t cursor = 0;
+  for (;;) {
+    const size_t at = matchInRebuiltLine(line, cursor, done_, find_, flags_, open, close);
+    if (at == std::string::npos) break;
+    done_.append(line, cursor, at - cursor);
+    stretches_.push_back({done_.size(), done_.size() + replace_.size()});
+    done_.append(replace_);
+    cursor = at + find_.size();
   }
-  if (!stretches_.empty()) insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
+  if (stretches_.empty()) return 0;
+  done_.append(line, cursor, std::string::npos);
+  line.swap(done_);
+  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
   return static_cast<long>(stretches_.size());
 }
 

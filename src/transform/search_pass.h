@@ -41,7 +41,7 @@ class ReplaceLine : public RichLineTransform {
   int flags_;
   std::string open_, close_, markStart_, markEnd_;
   std::vector<Stretch> stretches_;
-  std::string scratch_;
+  std::string done_, scratch_;
 };
 
 PassResult runReplaceAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,

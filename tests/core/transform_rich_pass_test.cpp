@@ -17,7 +17,7 @@ RichTextFrame testFrame() {
   RichTextFrame f;
   f.header = "{\\rtf1 H}   ";
   f.trailer = "\\par}  ";
-  f.indentSteps = 2;
+  f.indentTwips = 400;
   f.markStart = "<";
   f.markEnd = ">";
   f.commentOpen = "(";

@@ -91,6 +91,15 @@ TEST(ReplaceLine, EveryOccurrenceIsReplacedAndMarkedLeftToRight) {
   EXPECT_EQ(replaced("G01 X1", " ", "", 0, &n), "G01<>X1");
 }
 
+TEST(ReplaceLine, LaterOccurrencesSeeTheLineAsAlreadyChanged) {
+  // Whole word looks at the character before, which may be the end of the previous replacement.
+  EXPECT_EQ(replaced(" X X", " X", " Y ", kWholeWord), "< Y >< Y >");
+  EXPECT_EQ(replaced(" X X", " X", " Y", kWholeWord), "< Y> X");
+  // The comment positions were taken before any change, so a shrinking line can move a later
+  // occurrence between them: here the second XYZ1 is then taken as inside the comment.
+  EXPECT_EQ(replaced("XYZ1 (AB) XYZ1", "XYZ1", "", kExcludeComments), "<> (AB) XYZ1");
+}
+
 TEST(ReplaceLine, BracesAndBackslashesAreFoundBecauseBothSidesAreEscaped) {
   long n = 0;
   EXPECT_EQ(replaced("A{B}C", "{", "[", 0, &n), "A<[>B\\}C");
