@@ -1,14 +1,12 @@
 #include "transform/gui/transform_target.h"
 
-#include "format/rich_text_builder.h"
-
 namespace lathwick::gui {
 
 transform::RichTextFrame richTextFrameOf(const PassFrame& frame) {
   transform::RichTextFrame f;
   f.header = frame.header;
   f.trailer = frame.trailer;
-  f.indentSteps = frame.indentTwips / kTwipsPerIndentStep;
+  f.indentTwips = frame.indentTwips;
   f.markStart = frame.highlightStart;
   f.markEnd = frame.highlightEnd;
   if (frame.comment.active) {
