@@ -48,6 +48,7 @@ class FakeDocument : public gui::TransformTarget {
   gui::ReloadFormat lastFormat = gui::ReloadFormat::Plain;
   std::string reloaded;  // the bytes of the last file loaded
   bool fileUndoable = false;
+  bool bareLineFeeds = false;  // save with LF alone, as a file fresh from a serial link
   TempDir folder;
 
   // Selects from the start of 1-based line `first` to the end of line `last`.
@@ -77,8 +78,9 @@ class FakeDocument : public gui::TransformTarget {
   long lineCount() const override { return lineFromChar(textLength()) + 1; }
   bool savePlainText(const std::string& path) override {
     std::string crlf;
-    for (char c : text) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    writeFile(path, crlf + "\r\n");
+    const std::string brk = bareLineFeeds ? "\n" : "\r\n";
+    for (char c : text) crlf += c == '\n' ? brk : std::string(1, c);
+    writeFile(path, crlf + brk);
     return true;
   }
   void reloadDocument(const std::string& path, gui::ReloadFormat format) override {

@@ -43,14 +43,3 @@ TEST(ProgressForm, ShownWhileProgressRunsAndEscCancels) {
   EXPECT_FALSE(cancelRequested());
   EXPECT_EQ(status, (std::vector<std::string>{"Processing... [Esc] to cancel"}));
 }
-
-TEST(ProgressForm, CancelFromElsewhereIsSeenByThePass) {
-  test::testApp();
-  QProgressBar bar;
-  QtPassMonitor monitor(&bar, {});
-  monitor.clearCancel();
-  requestCancel();  // for example the main window's status bar
-  EXPECT_TRUE(monitor.cancelRequested());
-  monitor.clearCancel();
-  EXPECT_FALSE(monitor.cancelRequested());
-}
