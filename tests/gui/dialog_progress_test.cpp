@@ -1,12 +1,18 @@
 // The progress form and the Qt pass monitor: the form appears only while progress runs, Esc on
-// it sets the process-wide cancel flag, and a new pass clears it.
+// it sets the process-wide cancel flag, and a new pass clears it. Also the main window's handle
+// on the dialogs.
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QProgressBar>
 
 #include "dialog_fixture.h"
 #include "transform/gui/cancel_flag.h"
+#include "transform/gui/frm_operate.h"
 #include "transform/gui/frm_prog.h"
+#include "transform/gui/frm_renumber.h"
+#include "transform/gui/frm_search.h"
+#include "transform/gui/transform_dialogs.h"
 #include "transform/gui/qt_pass_monitor.h"
 
 using namespace lathwick;
@@ -42,4 +48,32 @@ TEST(ProgressForm, ShownWhileProgressRunsAndEscCancels) {
   monitor.clearCancel();
   EXPECT_FALSE(cancelRequested());
   EXPECT_EQ(status, (std::vector<std::string>{"Processing... [Esc] to cancel"}));
+}
+
+// The main window's handle: a closing document takes its dialogs with it, and each renumber
+// use gets a dialog that reads the settings afresh.
+TEST(TransformDialogs, ClosingDocumentClosesItsDialogsAndRenumberReadsSettingsEachTime) {
+  test::testApp();
+  test::TempDir config;
+  SettingsStore settings(config.file("Lathwick.ini"));
+  QWidget frame;
+  TransformDialogs dialogs(settings, &frame);
+  test::FakeDocument doc({"X1"}), other({"X2"});
+
+  dialogs.showSearch(doc);
+  dialogs.operate(doc);
+  auto* operate = frame.findChild<frmOperate*>();
+  ASSERT_NE(operate, nullptr);
+  dialogs.forget(&other);
+  EXPECT_TRUE(dialogs.search().isVisible());
+  EXPECT_TRUE(operate->isVisible());
+  dialogs.forget(&doc);
+  EXPECT_FALSE(dialogs.search().isVisible());
+  EXPECT_FALSE(operate->isVisible());
+
+  dialogs.renumber(doc);
+  settings.save("Numbering", "Character", "O");
+  dialogs.renumber(doc);
+  auto* seq = frame.findChild<frmRenumber*>()->findChild<QLineEdit*>("txtSeqChr");
+  EXPECT_EQ(seq->text(), "O");
 }
