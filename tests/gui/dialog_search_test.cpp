@@ -171,9 +171,17 @@ TEST_F(SearchDialog, CancelDuringALongPassLeavesTheDocumentAndSaysSoOnce) {
   FakeDocument doc(lines);
   dialog->showFor(doc);
   enter("X1", "X2");
-  // The Cancel click arrives while the pass lets window events run.
-  QTimer::singleShot(0, dialog.get(), [this] { click("cmdCancel"); });
+  // The Cancel click arrives while the pass lets window events run; by then the other buttons
+  // are held so that no second pass can start inside the first.
+  bool othersHeld = false;
+  QTimer::singleShot(0, dialog.get(), [&] {
+    othersHeld = !child<QPushButton>("cmdReplaceAll")->isEnabled() && !child<QPushButton>("cmdOK")->isEnabled();
+    click("cmdCancel");
+  });
   click("cmdReplaceAll");
+  EXPECT_TRUE(othersHeld);
+  EXPECT_TRUE(child<QPushButton>("cmdReplaceAll")->isEnabled());
+  EXPECT_FALSE(child<QPushButton>("cmdUndo")->isEnabled());  // nothing was replaced
   EXPECT_EQ(doc.reloads, 0);
   EXPECT_EQ(doc.text, test::joinLines(lines, "\n"));
   ASSERT_EQ(boxes.shown.size(), 1u);

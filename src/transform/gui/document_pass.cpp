@@ -1,5 +1,8 @@
 #include "transform/gui/document_pass.h"
 
+#include <QAbstractButton>
+#include <QWidget>
+
 #include "transform/gui/message_box.h"
 #include "transform/gui/qt_pass_monitor.h"
 #include "transform/gui/transform_target.h"
@@ -21,6 +24,19 @@ std::optional<PassResult> runDocumentPass(TransformTarget& target, QProgressBar*
   }
   reportPassOutcome(parent, result);
   return result;
+}
+
+ButtonsHeld::ButtonsHeld(QWidget& dialog, const QAbstractButton* cancel) {
+  for (QAbstractButton* b : dialog.findChildren<QAbstractButton*>()) {
+    if (b == cancel || !b->isEnabled()) continue;
+    b->setEnabled(false);
+    held_.emplace_back(b);
+  }
+}
+
+ButtonsHeld::~ButtonsHeld() {
+  for (const QPointer<QAbstractButton>& b : held_)
+    if (b) b->setEnabled(true);
 }
 
 void reportPassOutcome(QWidget* parent, const PassResult& result) {

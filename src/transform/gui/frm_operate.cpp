@@ -172,10 +172,14 @@ void frmOperate::onOK() {
     request.range = range_.lines;
     request.displayLineCount = target.lineCount();
     const RichTextFrame frame = richTextFrameOf(target.passFrame());
-    const auto result = runDocumentPass(target, progOperate_, this,
-                                        [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-                                          return runOperate(in, out, request, frame, monitor);
-                                        });
+    std::optional<PassResult> result;
+    {
+      const ButtonsHeld held(*this, cmdCancel_);
+      result = runDocumentPass(target, progOperate_, this,
+                               [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+                                 return runOperate(in, out, request, frame, monitor);
+                               });
+    }
     if (!result || result->outcome != PassOutcome::Completed) return;
     if (result->reload) {
       target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);

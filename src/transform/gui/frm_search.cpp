@@ -262,11 +262,16 @@ void frmSearch::runPass(bool highlight) {
     request.range = range_.lines;
     request.displayLineCount = target.lineCount();
     const RichTextFrame frame = richTextFrameOf(target.passFrame());
-    const auto result = runDocumentPass(
-        target, progReplace_, this, [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-          return highlight ? runHighlightAll(in, out, request, frame, monitor)
-                           : runReplaceAll(in, out, request, frame, monitor);
-        });
+    std::optional<PassResult> result;
+    {
+      const ButtonsHeld held(*this, cmdCancel_);
+      result = runDocumentPass(target, progReplace_, this,
+                               [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+                                 return highlight ? runHighlightAll(in, out, request, frame, monitor)
+                                                  : runReplaceAll(in, out, request, frame, monitor);
+                               });
+    }
+    if (!loaded_) cmdUndo_->setEnabled(false);  // cancelled and unloaded while the pass ran
     if (!result || result->outcome != PassOutcome::Completed) return;
     if (result->reload) {
       target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
