@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <cstdlib>
 #include <cstdint>
 
 #include "platform/bytes.h"
@@ -53,7 +55,11 @@ double leadingValue(std::string_view text) {
   }
   double v = 0;
   const auto r = std::from_chars(text.data() + start, text.data() + i, v, std::chars_format::fixed);
-  if (r.ec == std::errc::result_out_of_range) throw makeError(err::kOverflow);
+  if (r.ec == std::errc::result_out_of_range) {
+    // Too small reads as (nearly) zero; too large cannot be worked with.
+    v = std::strtod(std::string(text.substr(start, i - start)).c_str(), nullptr);
+    if (!std::isfinite(v)) throw makeError(err::kOverflow);
+  }
   return negative ? -v : v;
 }
 

@@ -188,4 +188,6 @@ TEST(Operate, ShortAndLongValuesReadTheSame) {
   EXPECT_EQ(leadingValue("1234567890123456789"), 1234567890123456789.0);
   EXPECT_EQ(leadingValue("0.00000000000000000001"), 1e-20);
   EXPECT_EQ(leadingValue("-2.675"), -2.675);
+  EXPECT_EQ(leadingValue("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_THROW(leadingValue("1" + std::string(400, '0')), lathwick::AppError);
 }
