@@ -24,4 +24,14 @@ class NumericPicture {
   bool point_ = false;
 };
 
+// The first 15 significant decimal digits of a positive finite magnitude, correctly rounded:
+// magnitude = 0.d1...d15 x 10^pointPos. The quick way works in integers and declines (returns
+// false) when it cannot be sure; the exact way always answers. Both are here to be compared.
+struct DecimalDigits {
+  char digits[16];
+  int pointPos = 0;
+};
+bool quickDecimalDigits(double magnitude, DecimalDigits& out);
+void exactDecimalDigits(double magnitude, DecimalDigits& out);
+
 }  // namespace lathwick::transform

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <cstdint>
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
@@ -31,9 +34,32 @@ double leadingValue(std::string_view text) {
     while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i, digits = true;
   }
   if (!digits) return 0;
+  // Up to 15 digits the value is a whole number over a power of ten, both exact as doubles, so
+  // one division gives the correctly rounded result, as the general reading would.
+  std::uint64_t mantissa = 0;
+  int digitCount = 0, decimals = 0;
+  bool afterPoint = false;
+  for (size_t k = start; k < i && digitCount <= 15; ++k) {
+    if (text[k] == '.') {
+      afterPoint = true;
+      continue;
+    }
+    mantissa = mantissa * 10 + static_cast<std::uint64_t>(text[k] - '0');
+    ++digitCount;
+    decimals += afterPoint;
+  }
+  if (digitCount <= 15) {
+    constexpr double kPow10[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const double v = static_cast<double>(mantissa) / kPow10[decimals];
+    return negative ? -v : v;
+  }
   double v = 0;
   const auto r = std::from_chars(text.data() + start, text.data() + i, v, std::chars_format::fixed);
-  if (r.ec == std::errc::result_out_of_range) throw makeError(err::kOverflow);
+  if (r.ec == std::errc::result_out_of_range) {
+    // Too small reads as (nearly) zero; too large cannot be worked with.
+    v = std::strtod(std::string(text.substr(start, i - start)).c_str(), nullptr);
+    if (!std::isfinite(v)) throw makeError(err::kOverflow);
+  }
   return negative ? -v : v;
 }
 
@@ -123,8 +149,11 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
     carry(std::string::npos);
     done_.append(line, cursor, std::string::npos);
     line.swap(done_);
-    std::inplace_merge(stretches_.begin(), stretches_.begin() + static_cast<long>(before), stretches_.end(),
-                       [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
+    // Usually the addresses come in the order of the line (X before Y before Z) and nothing
+    // needs merging.
+    if (before > 0 && stretches_[before].start < stretches_[before - 1].start)
+      std::inplace_merge(stretches_.begin(), stretches_.begin() + static_cast<long>(before), stretches_.end(),
+                         [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
   if (stretches_.empty()) return 0;
   insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);

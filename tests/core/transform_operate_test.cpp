@@ -8,6 +8,10 @@
 #include "transform/operate.h"
 #include "transform/rich_text_escape.h"
 
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
 using namespace lathwick::transform;
 
 namespace {
@@ -152,4 +156,38 @@ TEST(Operate, PassCountsOperationsAndOverflowFailsTheOperation) {
   EXPECT_EQ(r.outcome, PassOutcome::Failed);
   EXPECT_EQ(r.message, "The error 6 Overflow occurred during the operation.");
   EXPECT_FALSE(std::filesystem::exists(dir.file("big.rtf")));
+}
+
+TEST(NumericPicture, QuickDigitsAgreeWithTheExactOnesOrDecline) {
+  // Values as programs hold them, and values built to sit on rounding ties and powers of ten.
+  std::vector<double> values = {1e-5, 0.1, 0.3, 1, 9.99999999999999, 10, 99.99999999999995, 123456789012345,
+                                999999999999999.4, 2.675, 0.125, 1.0000000000000002, 5e-5};
+  std::uint64_t seed = 88172645463325252ULL;
+  for (int i = 0; i < 200000; ++i) {
+    seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+    const double unit = static_cast<double>(seed >> 11) / 9007199254740992.0;
+    values.push_back(unit * std::pow(10.0, static_cast<int>(seed % 21) - 6));
+    values.push_back(static_cast<double>(seed % 2000000) / 1000.0 * 2);  // scaled program values
+  }
+  int quick = 0;
+  for (const double v : values) {
+    if (v == 0) continue;
+    DecimalDigits a, b;
+    exactDecimalDigits(v, b);
+    if (!quickDecimalDigits(v, a)) continue;
+    ++quick;
+    ASSERT_EQ(std::string(a.digits, 15), std::string(b.digits, 15)) << v;
+    ASSERT_EQ(a.pointPos, b.pointPos) << v;
+  }
+  EXPECT_GT(quick, 300000);  // the quick way answers nearly always
+}
+
+TEST(Operate, ShortAndLongValuesReadTheSame) {
+  EXPECT_EQ(leadingValue("0.1"), 0.1);
+  EXPECT_EQ(leadingValue("123456789012.345"), 123456789012.345);
+  EXPECT_EQ(leadingValue("1234567890123456789"), 1234567890123456789.0);
+  EXPECT_EQ(leadingValue("0.00000000000000000001"), 1e-20);
+  EXPECT_EQ(leadingValue("-2.675"), -2.675);
+  EXPECT_EQ(leadingValue("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_THROW(leadingValue("1" + std::string(400, '0')), lathwick::AppError);
 }
