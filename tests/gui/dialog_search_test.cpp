@@ -149,23 +149,6 @@ TEST_F(SearchDialog, OptionFlagsRunOppositeToTheBoxIndexesAndAreStoredOnUnload) 
   EXPECT_EQ(again.searchFlags(), 1);
 }
 
-TEST_F(SearchDialog, HistoryKeepsTenEntriesNewestFirst) {
-  FakeDocument doc({"X1"});
-  dialog->showFor(doc);
-  for (int i = 1; i <= 11; ++i) {
-    enter(("F" + std::to_string(i)).c_str(), "");
-    click("cmdOK");
-  }
-  dialog->showFor(doc);
-  auto* find = child<QComboBox>("cboFind");
-  ASSERT_EQ(find->count(), 10);
-  EXPECT_EQ(find->itemText(0), "F11");
-  EXPECT_EQ(find->itemText(9), "F2");
-  EXPECT_EQ(find->currentText(), "");  // shown with the entry cleared
-  EXPECT_EQ(settings.get("cboFind", "cboFind10"), "F2");
-  EXPECT_FALSE(settings.has("cboReplace", "cboReplace1"));  // empty texts are not kept
-}
-
 TEST_F(SearchDialog, CancelDuringALongPassLeavesTheDocumentAndSaysSoOnce) {
   std::vector<std::string> lines(5000, "G01 X1 Y1");
   FakeDocument doc(lines);
@@ -192,20 +175,6 @@ TEST_F(SearchDialog, CancelDuringALongPassLeavesTheDocumentAndSaysSoOnce) {
   // The progress bar was set up for the document's lines and is put away again.
   EXPECT_EQ(child<QProgressBar>("progReplace")->maximum(), 5000);
   EXPECT_FALSE(child<QProgressBar>("progReplace")->isVisible());
-}
-
-TEST_F(SearchDialog, ProgressBarOnlyAbove200Lines) {
-  FakeDocument short200(std::vector<std::string>(200, "X1"));
-  dialog->showFor(short200);
-  enter("X1", "X1");
-  click("cmdHighlight");
-  EXPECT_EQ(child<QProgressBar>("progReplace")->maximum(), 100);  // untouched default
-  FakeDocument long201(std::vector<std::string>(201, "X1"));
-  dialog->showFor(long201);
-  enter("X1", "X1");
-  click("cmdHighlight");
-  EXPECT_EQ(child<QProgressBar>("progReplace")->maximum(), 201);
-  EXPECT_EQ(label("lblStatus"), "201 Highlights made.");
 }
 
 }  // namespace
