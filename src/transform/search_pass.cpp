@@ -1,0 +1,83 @@
+#include "transform/search_pass.h"
+
+#include "transform/rich_text_escape.h"
+#include "transform/search_match.h"
+
+namespace lathwick::transform {
+
+namespace {
+// 1-based position of the first occurrence of `needle` in `raw`, 0 when absent or empty.
+long firstPosition(std::string_view raw, const std::string& needle) {
+  if (needle.empty()) return 0;
+  const size_t p = raw.find(needle);
+  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
+}
+}  // namespace
+
+ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText, int flags,
+                         const RichTextFrame& frame)
+    : find_(escapeRichText(findText)),
+      replace_(escapeRichText(replaceText)),
+      flags_(flags),
+      open_(frame.commentOpen),
+      close_(frame.commentClose),
+      markStart_(frame.markStart),
+      markEnd_(frame.markEnd) {}
+
+long ReplaceLine::apply(std::string_view raw, std::string& line) {
+  if (find_.empty()) return 0;
+  const long open = firstPosition(raw, open_);
+  const long close = firstPosition(raw, close_);
+  // The line is rebuilt left to right into done_, which is what replacing each occurrence in
+  // place would give, without moving the rest of a long line at every occurrence.
+  stretches_.clear();
+  done_.clear();
+  size_t cursor = 0;
+  for (;;) {
+    const size_t at = matchInRebuiltLine(line, cursor, done_, find_, flags_, open, close);
+    if (at == std::string::npos) break;
+    done_.append(line, cursor, at - cursor);
+    stretches_.push_back({done_.size(), done_.size() + replace_.size()});
+    done_.append(replace_);
+    cursor = at + find_.size();
+  }
+  if (stretches_.empty()) return 0;
+  done_.append(line, cursor, std::string::npos);
+  line.swap(done_);
+  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
+  return static_cast<long>(stretches_.size());
+}
+
+namespace {
+PassResult runSearchPass(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
+                         const std::string& replaceText, const char* status, const RichTextFrame& frame,
+                         PassMonitor& monitor) {
+  ReplaceLine transform(request.findText, replaceText, request.flags, frame);
+  RichPassSettings settings;
+  settings.statusText = status;
+  settings.countPhrase = request.findText == replaceText ? kHighlightsPhrase : kReplacementsPhrase;
+  settings.errorEnding = kReplaceErrorEnding;
+  settings.displayLineCount = request.displayLineCount;
+  return runRichPass(inPath, outPath, frame, request.range, transform, settings, monitor);
+}
+}  // namespace
+
+PassResult runReplaceAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
+                         const RichTextFrame& frame, PassMonitor& monitor) {
+  return runSearchPass(inPath, outPath, request, request.replaceText, kReplacingStatus, frame, monitor);
+}
+
+PassResult runHighlightAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
+                           const RichTextFrame& frame, PassMonitor& monitor) {
+  return runSearchPass(inPath, outPath, request, request.findText, kHighlightingStatus, frame, monitor);
+}
+
+std::string replaceCommandError(int number, const std::string& text) {
+  return "Search/Replace Error " + std::to_string(number) + "; " + text;
+}
+
+std::string highlightCommandError(int number, const std::string& text) {
+  return "Highlight Error " + std::to_string(number) + "; " + text;
+}
+
+}  // namespace lathwick::transform
