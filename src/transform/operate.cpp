@@ -102,10 +102,9 @@ double OperateLine::compute(double value) const {
   throw AppError(5, "Invalid procedure call or argument");
 }
 
-long OperateLine::apply(std::string_view raw, std::string& line) {
+long OperateLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& stretches_) {
   const long open = excludeComments_ ? firstPosition(raw, open_) : 0;
   const long close = excludeComments_ ? firstPosition(raw, close_) : 0;
-  stretches_.clear();
   for (const char address : addresses_) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;
@@ -155,9 +154,14 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
       std::inplace_merge(stretches_.begin(), stretches_.begin() + static_cast<long>(before), stretches_.end(),
                          [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
-  if (stretches_.empty()) return 0;
-  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
   return static_cast<long>(stretches_.size());
+}
+
+long OperateLine::apply(std::string_view raw, std::string& line) {
+  marks_.clear();
+  const long n = transform(raw, line, marks_);
+  insertMarkers(line, marks_, markStart_, markEnd_, scratch_);
+  return n;
 }
 
 PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,
