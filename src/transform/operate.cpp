@@ -8,6 +8,7 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "transform/search_match.h"
 
 namespace lathwick::transform {
 
@@ -15,11 +16,6 @@ namespace {
 // "+" and the characters - . / and the digits make up a value; the comma does not.
 bool isValueCharacter(char c) { return c == '+' || (c >= 45 && c <= 57); }
 
-long firstPosition(std::string_view raw, const std::string& needle) {
-  if (needle.empty()) return 0;
-  const size_t p = raw.find(needle);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
 }  // namespace
 
 double leadingValue(std::string_view text) {
@@ -103,8 +99,8 @@ double OperateLine::compute(double value) const {
 }
 
 long OperateLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& stretches_) {
-  const long open = excludeComments_ ? firstPosition(raw, open_) : 0;
-  const long close = excludeComments_ ? firstPosition(raw, close_) : 0;
+  const long open = excludeComments_ ? positionOf(raw, open_) : 0;
+  const long close = excludeComments_ ? positionOf(raw, close_) : 0;
   for (const char address : addresses_) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;

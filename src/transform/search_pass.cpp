@@ -5,15 +5,6 @@
 
 namespace lathwick::transform {
 
-namespace {
-// 1-based position of the first occurrence of `needle` in `raw`, 0 when absent or empty.
-long firstPosition(std::string_view raw, const std::string& needle) {
-  if (needle.empty()) return 0;
-  const size_t p = raw.find(needle);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
-}  // namespace
-
 ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText, int flags,
                          const RichTextFrame& frame)
     : find_(escapeRichText(findText)),
@@ -26,8 +17,8 @@ ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText
 
 long ReplaceLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) {
   if (find_.empty()) return 0;
-  const long open = firstPosition(raw, open_);
-  const long close = firstPosition(raw, close_);
+  const long open = positionOf(raw, open_);
+  const long close = positionOf(raw, close_);
   // The line is rebuilt left to right into done_, which is what replacing each occurrence in
   // place would give, without moving the rest of a long line at every occurrence.
   done_.clear();
