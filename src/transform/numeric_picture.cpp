@@ -2,8 +2,10 @@
 
 #include <charconv>
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 #include "platform/errors.h"
 
@@ -20,25 +22,61 @@ constexpr std::uint64_t kLow = 100000000000000ULL;    // 10^14: the smallest 15-
 constexpr std::uint64_t kHigh = 1000000000000000ULL;  // 10^15
 }  // namespace
 
-bool quickDecimalDigits(double magnitude, DecimalDigits& out) {
+namespace {
+// The 15 significant digits as one whole number and the place of the point; false when unsure.
+bool quickWhole(double magnitude, DecimalDigits& out) {
   // Programs hold values from about 1e-5 up; below that the exact way is quick enough.
   if (!(magnitude >= 1e-5 && magnitude < 1e15)) return false;
   // floor(log10) from the binary exponent, corrected by one comparison.
-  int e = (std::ilogb(magnitude) * 78913) >> 18;  // 78913 / 2^18 is just under log10(2)
+  const int binaryExponent = static_cast<int>((std::bit_cast<std::uint64_t>(magnitude) >> 52) & 0x7ff) - 1023;
+  int e = (binaryExponent * 78913) >> 18;  // 78913 / 2^18 is just under log10(2)
   if (e < 14 && magnitude >= (e + 1 >= 0 ? kPow10[e + 1] : 1.0 / kPow10[-(e + 1)])) ++e;
   if (e < -5) return false;
   const int k = 14 - e;  // 0 .. 19: 10^k is exact
   const double scaled = magnitude * kPow10[k];  // off by at most half a unit of 0.125
-  const double fraction = scaled - std::floor(scaled);
-  if (std::fabs(fraction - 0.5) < 0.1) return false;  // too near a tie to decide here
-  std::uint64_t n = static_cast<std::uint64_t>(std::nearbyint(scaled));
+  const auto truncated = static_cast<std::uint64_t>(scaled);
+  const double fraction = scaled - static_cast<double>(truncated);
+  if (fraction > 0.4 && fraction < 0.6) return false;  // too near a tie to decide here
+  std::uint64_t n = truncated + (fraction >= 0.5);
   if (n == kHigh) {  // rounded up into a 16th digit
     n = kLow;
     ++e;
   }
   if (n < kLow || n >= kHigh) return false;  // the power of ten was misjudged at a boundary
-  for (int i = kSignificant - 1; i >= 0; --i, n /= 10) out.digits[i] = static_cast<char>('0' + n % 10);
+  out.whole = n;
   out.pointPos = e + 1;
+  return true;
+}
+
+// n / 10^exponent and its remainder, with constant divisors the compiler turns into multiplications.
+template <int E>
+void divideByPow10(std::uint64_t n, std::uint64_t& quotient, std::uint64_t& remainder) {
+  constexpr std::uint64_t p = [] {
+    std::uint64_t v = 1;
+    for (int i = 0; i < E; ++i) v *= 10;
+    return v;
+  }();
+  quotient = n / p;
+  remainder = n % p;
+}
+template <int... E>
+void divideByPow10(int exponent, std::uint64_t n, std::uint64_t& quotient, std::uint64_t& remainder,
+                   std::integer_sequence<int, E...>) {
+  ((exponent == E ? (divideByPow10<E>(n, quotient, remainder), true) : false) || ...);
+}
+void divideByPow10(int exponent, std::uint64_t n, std::uint64_t& quotient, std::uint64_t& remainder) {
+  divideByPow10(exponent, n, quotient, remainder, std::make_integer_sequence<int, 20>());
+}
+
+void digitsFromWhole(DecimalDigits& d) {
+  std::uint64_t rest = d.whole;
+  for (int i = kSignificant - 1; i >= 0; --i, rest /= 10) d.digits[i] = static_cast<char>('0' + rest % 10);
+}
+}  // namespace
+
+bool quickDecimalDigits(double magnitude, DecimalDigits& out) {
+  if (!quickWhole(magnitude, out)) return false;
+  digitsFromWhole(out);
   return true;
 }
 
@@ -86,17 +124,96 @@ std::string NumericPicture::format(double value) const {
 
 void NumericPicture::format(double value, std::string& out) const {
   if (!std::isfinite(value)) throw AppError(6, "Overflow");
-  // Decimal digits of |value| to 15 significant places: value = 0.d1d2...d15 x 10^pointPos.
+  const double magnitude = std::fabs(value);
+  if (magnitude == 0.0) return appendFromDigits(false, nullptr, out);
+  DecimalDigits d;
+  if (quickWhole(magnitude, d)) {
+    if (appendFromWhole(value < 0, d, out)) return;
+    digitsFromWhole(d);
+  } else {
+    exactDecimalDigits(magnitude, d);
+  }
+  appendFromDigits(value < 0, &d, out);
+}
+
+std::string NumericPicture::formatByDigits(double value) const {
+  if (!std::isfinite(value)) throw AppError(6, "Overflow");
+  std::string out;
+  const double magnitude = std::fabs(value);
+  if (magnitude == 0.0) {
+    appendFromDigits(false, nullptr, out);
+  } else {
+    DecimalDigits d;
+    exactDecimalDigits(magnitude, d);
+    appendFromDigits(value < 0, &d, out);
+  }
+  return out;
+}
+
+bool NumericPicture::appendFromWhole(bool negative, const DecimalDigits& d, std::string& out) const {
+  if (minIntegerDigits_ > 20 || maxDecimals_ > 18) return false;  // beyond the buffer below
+  static constexpr std::uint64_t kPow10u[] = {1ULL,
+                                              10ULL,
+                                              100ULL,
+                                              1000ULL,
+                                              10000ULL,
+                                              100000ULL,
+                                              1000000ULL,
+                                              10000000ULL,
+                                              100000000ULL,
+                                              1000000000ULL,
+                                              10000000000ULL,
+                                              100000000000ULL,
+                                              1000000000000ULL,
+                                              10000000000000ULL,
+                                              100000000000000ULL,
+                                              1000000000000000ULL,
+                                              10000000000000000ULL,
+                                              100000000000000000ULL,
+                                              1000000000000000000ULL,
+                                              10000000000000000000ULL};
+  // d.whole holds the value times 10^k (k decimals); round it half up to the picture's places.
+  const int k = kSignificant - d.pointPos;  // 0 .. 19
+  std::uint64_t q = d.whole;
+  int decimals = k;
+  if (maxDecimals_ < k) {
+    std::uint64_t rest = 0;
+    divideByPow10(k - maxDecimals_, d.whole, q, rest);
+    if (rest >= kPow10u[k - maxDecimals_] / 2) ++q;
+    decimals = maxDecimals_;
+  }
+  std::uint64_t integer = 0, fraction = 0;
+  divideByPow10(decimals, q, integer, fraction);
+  char buf[80];
+  char* w = buf;
+  if (negative && q != 0) *w++ = '-';
+  char digits[24];
+  const int integerDigits = integer == 0 ? 0 : static_cast<int>(std::to_chars(digits, digits + 24, integer).ptr - digits);
+  for (int pad = minIntegerDigits_ - integerDigits; pad > 0; --pad) *w++ = '0';
+  w = std::copy(digits, digits + integerDigits, w);
+  if (point_) {
+    *w++ = '.';
+    char* first = w;
+    std::uint64_t f = fraction;
+    for (int i = decimals - 1; i >= 0; --i, f /= 10) first[i] = static_cast<char>('0' + f % 10);
+    for (int i = decimals; i < maxDecimals_; ++i) first[i] = '0';
+    int shown = maxDecimals_;
+    while (shown > minDecimals_ && first[shown - 1] == '0') --shown;
+    w = first + shown;
+  }
+  out.append(buf, w);
+  return true;
+}
+
+void NumericPicture::appendFromDigits(bool negative, const DecimalDigits* d, std::string& out) const {
+  // Decimal digits of the magnitude to 15 significant places: 0.d1d2...d15 x 10^pointPos.
   char digits[kSignificant + 1];
   int count = 0;
   int pointPos = 0;
-  const double magnitude = std::fabs(value);
-  if (magnitude != 0.0) {
-    DecimalDigits d;
-    if (!quickDecimalDigits(magnitude, d)) exactDecimalDigits(magnitude, d);
-    std::copy(d.digits, d.digits + kSignificant, digits);
+  if (d) {
+    std::copy(d->digits, d->digits + kSignificant, digits);
     count = kSignificant;
-    pointPos = d.pointPos;
+    pointPos = d->pointPos;
   }
   // Round half away from zero to maxDecimals_ places: keep pointPos + maxDecimals_ digits.
   int keep = pointPos + maxDecimals_;
@@ -121,7 +238,7 @@ void NumericPicture::format(double value, std::string& out) const {
   bool nonZero = false;
   for (int i = 0; i < count; ++i) nonZero |= digits[i] != '0';
 
-  if (value < 0 && nonZero) out.push_back('-');
+  if (negative && nonZero) out.push_back('-');
   // Integer part: places 0 .. pointPos-1, without leading zeros, padded to the picture's zeros.
   int firstShown = 0;
   while (firstShown < pointPos && digitAt(firstShown) == '0') ++firstShown;

@@ -16,8 +16,14 @@ class NumericPicture {
   // decimal places; a leading "-" only when the shown number is not zero. Appends to `out`.
   void format(double value, std::string& out) const;
   std::string format(double value) const;
+  // The general way, digit by digit; format() takes a quicker route in whole numbers when it
+  // can, and the two must agree.
+  std::string formatByDigits(double value) const;
 
  private:
+  bool appendFromWhole(bool negative, const struct DecimalDigits& d, std::string& out) const;
+  void appendFromDigits(bool negative, const struct DecimalDigits* d, std::string& out) const;
+
   int minIntegerDigits_ = 0;  // from the first "0" before the point to the point
   int maxDecimals_ = 0;       // every digit place after the point
   int minDecimals_ = 0;       // up to the last "0" after the point
@@ -30,6 +36,7 @@ class NumericPicture {
 struct DecimalDigits {
   char digits[16];
   int pointPos = 0;
+  unsigned long long whole = 0;  // the 15 digits as one number (the quick way only)
 };
 bool quickDecimalDigits(double magnitude, DecimalDigits& out);
 void exactDecimalDigits(double magnitude, DecimalDigits& out);

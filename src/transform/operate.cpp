@@ -8,6 +8,7 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "transform/search_match.h"
 
 namespace lathwick::transform {
 
@@ -15,11 +16,6 @@ namespace {
 // "+" and the characters - . / and the digits make up a value; the comma does not.
 bool isValueCharacter(char c) { return c == '+' || (c >= 45 && c <= 57); }
 
-long firstPosition(std::string_view raw, const std::string& needle) {
-  if (needle.empty()) return 0;
-  const size_t p = raw.find(needle);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
 }  // namespace
 
 double leadingValue(std::string_view text) {
@@ -102,10 +98,9 @@ double OperateLine::compute(double value) const {
   throw AppError(5, "Invalid procedure call or argument");
 }
 
-long OperateLine::apply(std::string_view raw, std::string& line) {
-  const long open = excludeComments_ ? firstPosition(raw, open_) : 0;
-  const long close = excludeComments_ ? firstPosition(raw, close_) : 0;
-  stretches_.clear();
+long OperateLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) {
+  const long open = excludeComments_ ? positionOf(raw, open_) : 0;
+  const long close = excludeComments_ ? positionOf(raw, close_) : 0;
   for (const char address : addresses_) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;
@@ -117,11 +112,11 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
     done_.clear();
     size_t cursor = 0;
     size_t moved = 0;  // earlier stretches already carried over
-    const size_t before = stretches_.size();
+    const size_t before = marks.size();
     auto carry = [&](size_t limit) {
       const size_t shift = done_.size() - cursor;  // wraps for a shrinking line; the sum is right
-      for (; moved < before && stretches_[moved].start < limit; ++moved)
-        stretches_[moved].start += shift, stretches_[moved].end += shift;
+      for (; moved < before && marks[moved].start < limit; ++moved)
+        marks[moved].start += shift, marks[moved].end += shift;
     };
     while (p != std::string::npos) {
       const long position = static_cast<long>(done_.size() + (p - cursor)) + 1;
@@ -140,24 +135,29 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
       picture_.format(result, number_);
       carry(valueStart);
       done_.append(line, cursor, valueStart - cursor);
-      stretches_.push_back({done_.size(), done_.size() + number_.size()});
+      marks.push_back({done_.size(), done_.size() + number_.size()});
       done_.append(number_);
       cursor = valueEnd;
       p = line.find(address, valueEnd);
     }
-    if (stretches_.size() == before) continue;
+    if (marks.size() == before) continue;
     carry(std::string::npos);
     done_.append(line, cursor, std::string::npos);
     line.swap(done_);
     // Usually the addresses come in the order of the line (X before Y before Z) and nothing
     // needs merging.
-    if (before > 0 && stretches_[before].start < stretches_[before - 1].start)
-      std::inplace_merge(stretches_.begin(), stretches_.begin() + static_cast<long>(before), stretches_.end(),
+    if (before > 0 && marks[before].start < marks[before - 1].start)
+      std::inplace_merge(marks.begin(), marks.begin() + static_cast<long>(before), marks.end(),
                          [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
-  if (stretches_.empty()) return 0;
-  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
-  return static_cast<long>(stretches_.size());
+  return static_cast<long>(marks.size());
+}
+
+long OperateLine::apply(std::string_view raw, std::string& line) {
+  marks_.clear();
+  const long n = transform(raw, line, marks_);
+  insertMarkers(line, marks_, markStart_, markEnd_, scratch_);
+  return n;
 }
 
 PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,

@@ -60,7 +60,9 @@ struct OperateRequest {
 class OperateLine : public RichLineTransform {
  public:
   OperateLine(const OperateRequest& request, const RichTextFrame& frame);
-  long apply(std::string_view raw, std::string& line) override;
+  long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override;
+  // The same with the markers put into the line.
+  long apply(std::string_view raw, std::string& line);
 
  private:
   double compute(double value) const;
@@ -70,7 +72,7 @@ class OperateLine : public RichLineTransform {
   NumericPicture picture_;
   bool excludeComments_;
   std::string open_, close_, markStart_, markEnd_;
-  std::vector<Stretch> stretches_;  // kept in order along the line
+  std::vector<Stretch> marks_;
   std::string number_, done_, scratch_;
 };
 

@@ -4,17 +4,11 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "transform/search_match.h"
 
 namespace lathwick::transform {
 
 namespace {
-// 1-based position of `needle` in `line`, 0 when absent; an empty needle is never found.
-long positionOf(std::string_view line, std::string_view needle) {
-  if (needle.empty()) return 0;
-  const size_t p = line.find(needle);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
-
 // Characters + , - . / and the digits belong to an old sequence number.
 bool isNumberCharacter(char c) { return c >= 43 && c <= 57; }
 

@@ -81,6 +81,7 @@ PassResult richLoop(const std::string& inPath, const std::string& outPath, const
   PassResult result;
   std::string raw, line;
   line.reserve(4096);
+  std::vector<Stretch> marks;
   long lineCount = 0;
   for (;;) {
     if (showProgress && lineCount % step == 0) monitor.progressValue(lineCount);
@@ -89,9 +90,19 @@ PassResult richLoop(const std::string& inPath, const std::string& outPath, const
     ++lineCount;
     line.clear();
     appendEscaped(raw, line);
-    if (range.contains(lineCount)) result.count += transform.apply(raw, line);
+    marks.clear();
+    if (range.contains(lineCount)) result.count += transform.transform(raw, line, marks);
     out.append(lineCount == 1 ? firstPrefix : laterPrefix);
-    out.appendLine(line);
+    // The markers go straight into the output rather than into the line first.
+    size_t from = 0;
+    for (const Stretch& s : marks) {
+      out.append(std::string_view(line).substr(from, s.start - from));
+      out.append(frame.markStart);
+      out.append(std::string_view(line).substr(s.start, s.end - s.start));
+      out.append(frame.markEnd);
+      from = s.end;
+    }
+    out.appendLine(std::string_view(line).substr(from));
     if (monitor.cancelRequested()) {
       PassResult c;
       c.outcome = PassOutcome::Cancelled;

@@ -5,8 +5,10 @@
 // progress for long documents and stops after the line in hand when the cancel flag is set.
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/pass_monitor.h"
+#include "transform/marker_insert.h"
 #include "transform/operation_range.h"
 #include "transform/pass_result.h"
 #include "transform/rich_text_frame.h"
@@ -16,9 +18,11 @@ namespace lathwick::transform {
 class RichLineTransform {
  public:
   virtual ~RichLineTransform() = default;
-  // `raw` is the line as read, `line` the same line already escaped; changes `line` and returns
-  // how many replacements or operations it made (the pass's count).
-  virtual long apply(std::string_view raw, std::string& line) = 0;
+  // `raw` is the line as read, `line` the same line already escaped. Changes `line`, lists the
+  // changed stretches left to right in `marks` (empty on entry) and returns how many
+  // replacements or operations it made (the pass's count). The pass writes the highlight
+  // markers around the stretches as it writes the line.
+  virtual long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) = 0;
 };
 
 struct RichPassSettings {

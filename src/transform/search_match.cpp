@@ -32,6 +32,12 @@ size_t findIndex(std::string_view line, std::string_view needle, size_t from, bo
 
 }  // namespace
 
+long positionOf(std::string_view line, std::string_view needle) {
+  if (needle.empty()) return 0;
+  const size_t p = line.find(needle);
+  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
+}
+
 long findFrom(std::string_view line, std::string_view needle, long start, bool matchCase) {
   if (start < 1) return 0;
   const size_t i = findIndex(line, needle, static_cast<size_t>(start) - 1, matchCase);

@@ -11,6 +11,10 @@ inline constexpr int kMatchCase = 4;
 inline constexpr int kWholeWord = 2;
 inline constexpr int kExcludeComments = 1;
 
+// 1-based position of the first occurrence of `needle` in `line`, compared exactly; 0 when it is
+// absent or empty.
+long positionOf(std::string_view line, std::string_view needle);
+
 // 1-based position of the first occurrence of `needle` at or after 1-based `start`, 0 when none.
 // An empty needle is never found. Without `matchCase` only ASCII letters ignore case.
 long findFrom(std::string_view line, std::string_view needle, long start, bool matchCase);

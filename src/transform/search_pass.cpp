@@ -5,15 +5,6 @@
 
 namespace lathwick::transform {
 
-namespace {
-// 1-based position of the first occurrence of `needle` in `raw`, 0 when absent or empty.
-long firstPosition(std::string_view raw, const std::string& needle) {
-  if (needle.empty()) return 0;
-  const size_t p = raw.find(needle);
-  return p == std::string_view::npos ? 0 : static_cast<long>(p) + 1;
-}
-}  // namespace
-
 ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText, int flags,
                          const RichTextFrame& frame)
     : find_(escapeRichText(findText)),
@@ -24,28 +15,33 @@ ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText
       markStart_(frame.markStart),
       markEnd_(frame.markEnd) {}
 
-long ReplaceLine::apply(std::string_view raw, std::string& line) {
+long ReplaceLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) {
   if (find_.empty()) return 0;
-  const long open = firstPosition(raw, open_);
-  const long close = firstPosition(raw, close_);
+  const long open = positionOf(raw, open_);
+  const long close = positionOf(raw, close_);
   // The line is rebuilt left to right into done_, which is what replacing each occurrence in
   // place would give, without moving the rest of a long line at every occurrence.
-  stretches_.clear();
   done_.clear();
   size_t cursor = 0;
   for (;;) {
     const size_t at = matchInRebuiltLine(line, cursor, done_, find_, flags_, open, close);
     if (at == std::string::npos) break;
     done_.append(line, cursor, at - cursor);
-    stretches_.push_back({done_.size(), done_.size() + replace_.size()});
+    marks.push_back({done_.size(), done_.size() + replace_.size()});
     done_.append(replace_);
     cursor = at + find_.size();
   }
-  if (stretches_.empty()) return 0;
+  if (marks.empty()) return 0;
   done_.append(line, cursor, std::string::npos);
   line.swap(done_);
-  insertMarkers(line, stretches_, markStart_, markEnd_, scratch_);
-  return static_cast<long>(stretches_.size());
+  return static_cast<long>(marks.size());
+}
+
+long ReplaceLine::apply(std::string_view raw, std::string& line) {
+  marks_.clear();
+  const long n = transform(raw, line, marks_);
+  insertMarkers(line, marks_, markStart_, markEnd_, scratch_);
+  return n;
 }
 
 namespace {

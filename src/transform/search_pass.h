@@ -34,13 +34,15 @@ struct SearchRequest {
 class ReplaceLine : public RichLineTransform {
  public:
   ReplaceLine(std::string_view findText, std::string_view replaceText, int flags, const RichTextFrame& frame);
-  long apply(std::string_view raw, std::string& line) override;
+  long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override;
+  // The same with the markers put into the line.
+  long apply(std::string_view raw, std::string& line);
 
  private:
   std::string find_, replace_;  // escaped
   int flags_;
   std::string open_, close_, markStart_, markEnd_;
-  std::vector<Stretch> stretches_;
+  std::vector<Stretch> marks_;
   std::string done_, scratch_;
 };
 

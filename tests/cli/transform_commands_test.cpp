@@ -111,8 +111,20 @@ TEST(TransformCli, OperateScalesAndFormats) {
 TEST(TransformCli, NothingChangedStillWritesOut) {
   TempDir dir;
   const auto in = dir.write("in.nc", "G00\r\n");
-  const auto r = runCli({"replace", "--find", "Q", "--replace", "R", in, dir.file("o.rtf")});
+  auto r = runCli({"replace", "--find", "Q", "--replace", "R", in, dir.file("o.rtf")});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "0 Replacements made.\n");
   EXPECT_FALSE(dir.read("o.rtf").empty());
+  r = runCli({"replace", "--find", "", "--replace", "R", in, dir.file("e.rtf")});  // finds nothing
+  EXPECT_EQ(r.exitCode, 0);
+  EXPECT_EQ(r.out, "0 Replacements made.\n");
+}
+
+TEST(TransformCli, CommentOptionChangesTheDelimitersOfTheRichPasses) {
+  TempDir dir;
+  const auto in = dir.write("in.nc", "G01 X1 [X1] (X1)\r\n");
+  const auto r = runCli({"highlight", "--find", "X1", "--exclude-comments", "--comment", "[", in, dir.file("o.rtf")});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(r.out, "1 Highlights made.\n");  // stops at the X1 inside [ ]
+  EXPECT_NE(dir.read("o.rtf").find("[X1] (X1)\r\n"), std::string::npos);
 }

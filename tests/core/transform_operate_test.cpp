@@ -191,3 +191,19 @@ TEST(Operate, ShortAndLongValuesReadTheSame) {
   EXPECT_EQ(leadingValue("0." + std::string(400, '0') + "1"), 0.0);
   EXPECT_THROW(leadingValue("1" + std::string(400, '0')), lathwick::AppError);
 }
+
+TEST(NumericPicture, QuickRouteAgreesWithTheDigitByDigitWay) {
+  const char* pictures[] = {"##0.0###", "0", "#", "0.", "#.##", "000.000", "0.0##############", "#0.#0#", ".00"};
+  std::uint64_t seed = 0x9E3779B97F4A7C15ULL;
+  for (const char* text : pictures) {
+    const NumericPicture picture(text);
+    for (int i = 0; i < 20000; ++i) {
+      seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+      const double unit = static_cast<double>(seed >> 11) / 9007199254740992.0;
+      double v = unit * std::pow(10.0, static_cast<int>(seed % 22) - 7);
+      if (seed & 1) v = -v;
+      if (seed & 2) v = std::round(v * 1000) / 1000 + 0.0005;  // near the ties of 3 places
+      ASSERT_EQ(picture.format(v), picture.formatByDigits(v)) << text << " " << v;
+    }
+  }
+}

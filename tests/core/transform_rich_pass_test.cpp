@@ -25,14 +25,16 @@ RichTextFrame testFrame() {
   return f;
 }
 
-// Upper-cases the line and counts one change per line that had a lower-case letter.
+// Upper-cases the line and counts one change per line that had a lower-case letter, marking
+// its first character.
 class UpperCase : public RichLineTransform {
  public:
-  long apply(std::string_view raw, std::string& line) override {
+  long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override {
     raws.emplace_back(raw);
     bool changed = false;
     for (char& c : line)
       if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32), changed = true;
+    if (changed) marks.push_back({0, 1});
     return changed ? 1 : 0;
   }
   std::vector<std::string> raws;
@@ -81,7 +83,7 @@ TEST(RichPass, WritesHeaderEscapedParagraphsAndTrailer) {
   EXPECT_TRUE(r.reload);
   EXPECT_EQ(r.statusLabel, "2 Things made.");
   EXPECT_EQ(dir.read("out.rtf"),
-            "{\\rtf1 H}\r\n\\li400 A\\{B\\}\r\n\\par\\li400 C\\\\D\r\n\\par\\li400 E\r\n\\par}\r\n");
+            "{\\rtf1 H}\r\n\\li400 <A>\\{B\\}\r\n\\par\\li400 <C>\\\\D\r\n\\par\\li400 E\r\n\\par}\r\n");
   EXPECT_EQ(t.raws, (std::vector<std::string>{"a{b}", "c\\d", "E"}));
   EXPECT_EQ(m.statuses, (std::vector<std::string>{"Working... [Esc] to cancel", "Press F1 for help."}));
   EXPECT_EQ(m.clears, 1);
@@ -94,7 +96,7 @@ TEST(RichPass, OnlyLinesInRangeAreTransformedAndNoChangeMeansNoReload) {
   const auto r = runRichPass(in, dir.file("out.rtf"), testFrame(), LineRange{2, 2}, t, settingsFor(),
                              lathwick::silentMonitor());
   EXPECT_EQ(r.count, 1);
-  EXPECT_NE(dir.read("out.rtf").find("\\li400 a\r\n\\par\\li400 B\r\n\\par\\li400 c\r\n"), std::string::npos);
+  EXPECT_NE(dir.read("out.rtf").find("\\li400 a\r\n\\par\\li400 <B>\r\n\\par\\li400 c\r\n"), std::string::npos);
 
   const auto in2 = dir.write("upper.txt", "A\r\nB");
   const auto r2 = runRichPass(in2, dir.file("out2.rtf"), testFrame(), LineRange{}, t, settingsFor(),
