@@ -10,7 +10,11 @@ namespace lathwick::transform {
 
 class OutputBuffer {
  public:
-  explicit OutputBuffer(const std::string& path) : writer_(path) { buf_.reserve(kBlock + 4096); }
+  // Pass outputs are rewritten on every run, so they skip the disk flush; the rename still
+  // means a failed run never leaves a half-written file in place.
+  explicit OutputBuffer(const std::string& path) : writer_(path, Durability::Scratch) {
+    buf_.reserve(kBlock + 4096);
+  }
 
   void append(std::string_view bytes) {
     buf_.append(bytes);
