@@ -5,6 +5,7 @@
 #include "format/pass_frame.h"
 #include "format/scheme_data_file.h"
 #include "platform/bytes.h"
+#include "transform/scheme_frame.h"
 #include "transform/search_match.h"
 
 namespace lathwick::cli {
@@ -29,18 +30,7 @@ SchemeRecord schemeFromOptions(const ParsedArgs& args) {
 transform::RichTextFrame frameFromOptions(const ParsedArgs& args) {
   const SchemeRecord record = schemeFromOptions(args);
   const std::optional<std::string> comment = args.value("--comment");
-  const PassFrame pf = makePassFrame(record, comment ? &*comment : nullptr);
-  transform::RichTextFrame f;
-  f.header = pf.header;
-  f.trailer = pf.trailer;
-  f.indentTwips = pf.indentTwips;
-  f.markStart = pf.highlightStart;
-  f.markEnd = pf.highlightEnd;
-  if (pf.comment.active) {
-    f.commentOpen.assign(1, pf.comment.open);
-    f.commentClose.assign(1, pf.comment.close);
-  }
-  return f;
+  return transform::richTextFrameOf(makePassFrame(record, comment ? &*comment : nullptr));
 }
 
 std::string commentStartFromOptions(const ParsedArgs& args) {

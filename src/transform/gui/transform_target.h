@@ -8,6 +8,7 @@
 #include "format/pass_frame.h"
 #include "transform/find_next.h"
 #include "transform/rich_text_frame.h"
+#include "transform/scheme_frame.h"
 
 namespace lathwick::gui {
 
@@ -44,7 +45,6 @@ class TransformTarget : public transform::SearchTarget {
   virtual std::string outputWorkFile() const = 0;
 };
 
-// The scheme's pieces as the rich passes take them.
-transform::RichTextFrame richTextFrameOf(const PassFrame& frame);
+using transform::richTextFrameOf;
 
 }  // namespace lathwick::gui
