@@ -1,7 +1,15 @@
+// highlight --find T: Highlight All over the range; the text stays, every occurrence is marked.
 #include "commands.h"
+#include "transform_common.h"
 
 namespace lathwick::cli {
 
-int cmdHighlight(const Args&) { return notAvailable("highlight"); }
+int cmdHighlight(const Args& args) {
+  const ParsedArgs p = ParsedArgs::parse(args, searchOptionSpecs(false), 2, "IN and OUT");
+  const transform::SearchRequest req = searchRequestFrom(p);
+  const transform::RichTextFrame frame = frameFromOptions(p);
+  const std::string& in = p.positionals()[0];
+  return finishPass(transform::runHighlightAll(in, p.positionals()[1], req, frame, silentMonitor()), true, in);
+}
 
 }  // namespace lathwick::cli

@@ -36,11 +36,11 @@ ParsedArgs ParsedArgs::parse(const std::vector<std::string>& args, const std::ve
       inlineValue = a.substr(eq + 1);
       hasInline = true;
     }
-    const OptionSpec* spec = nullptr;
+    const OptionSpec* declared = nullptr;
     for (const auto& s : specs)
-      if (name == s.name) spec = &s;
-    if (!spec) throw UsageError("unknown option " + name);
-    if (!spec->takesValue) {
+      if (name == s.name) declared = &s;
+    if (!declared) throw UsageError("unknown option " + name);
+    if (!declared->takesValue) {
       if (hasInline) throw UsageError("option " + name + " takes no value");
       out.flags_[name] = true;
       continue;

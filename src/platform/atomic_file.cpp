@@ -84,8 +84,8 @@ void AtomicFileWriter::commit() {
   }
 }
 
-void writeFileAtomically(const std::string& path, std::string_view bytes) {
-  AtomicFileWriter w(path);
+void writeFileAtomically(const std::string& path, std::string_view bytes, Durability durability) {
+  AtomicFileWriter w(path, durability);
   w.write(bytes);
   w.commit();
 }

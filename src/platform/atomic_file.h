@@ -33,6 +33,7 @@ class AtomicFileWriter {
 };
 
 // Whole-file convenience: writes bytes atomically; throws AppError on failure.
-void writeFileAtomically(const std::string& path, std::string_view bytes);
+void writeFileAtomically(const std::string& path, std::string_view bytes,
+                         Durability durability = Durability::Durable);
 
 }  // namespace lathwick

@@ -30,7 +30,7 @@ bool ReloadDocument(RichTextBox& box, const std::string& path, FileKind kind, co
   const QPoint caret = box.caretPixelPosition();
   if (nativePath(path) != nativePath(undoFilePath)) {
     try {
-      box.saveFile(undoFilePath, FileKind::RichText);
+      box.saveFile(undoFilePath, FileKind::RichText, Durability::Scratch);
     } catch (...) {
       ok = false;
     }

@@ -381,12 +381,12 @@ std::string RichTextBox::rtf() const {
   return rtf;
 }
 
-void RichTextBox::saveFile(const std::string& path, FileKind kind) const {
+void RichTextBox::saveFile(const std::string& path, FileKind kind, Durability durability) const {
   if (kind == FileKind::PlainText) {
-    writeFileAtomically(path, characterView());
+    writeFileAtomically(path, characterView(), durability);
     return;
   }
-  AtomicFileWriter file(path);
+  AtomicFileWriter file(path, durability);
   writeWholeRtf([&file](std::string_view piece) { file.write(piece); });
   file.commit();
 }

@@ -16,6 +16,7 @@
 
 #include "document/rtf_styling.h"
 #include "document/style_pieces.h"
+#include "platform/atomic_file.h"
 #include "document/style_table.h"
 
 namespace lathwick {
@@ -75,7 +76,8 @@ class RichTextBox : public QsciScintilla {
   // Both throw AppError when the file cannot be read or written; a failed load leaves the
   // control as it was.
   void loadFile(const std::string& path, FileKind kind);
-  void saveFile(const std::string& path, FileKind kind) const;
+  // Work files such as the undo snapshot pass Durability::Scratch: they skip the disk flush.
+  void saveFile(const std::string& path, FileKind kind, Durability durability = Durability::Durable) const;
   void loadRtf(std::string_view rtf);
   std::string rtf() const;
   // The styles of a range, one byte per character, and the struck-out ranges (for tests and the

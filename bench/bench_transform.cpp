@@ -1,0 +1,198 @@
+// The text transformations file to file on a generated program of 1,000,000 lines (~35 MB),
+// each timed next to an awk one-liner doing the same kind of work on the same file, so the
+// figures can be compared within one run on this machine. Run: build/bench/bench_transform
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "format/bundled_schemes.h"
+#include "format/pass_frame.h"
+#include "format/rich_text_builder.h"
+#include "platform/atomic_file.h"
+#include "transform/junk_filter.h"
+#include "transform/operate.h"
+#include "transform/renumber.h"
+#include "transform/search_pass.h"
+#include "transform/spaces.h"
+
+namespace {
+
+using namespace lathwick;
+using namespace lathwick::transform;
+
+const std::filesystem::path& folder() {
+  static const std::filesystem::path dir = [] {
+    auto d = std::filesystem::temp_directory_path() / "lathwick-bench-transform";
+    std::filesystem::create_directories(d);
+    return d;
+  }();
+  return dir;
+}
+std::string inputPath() { return (folder() / "program.nc").string(); }
+std::string outputPath() { return (folder() / "out.txt").string(); }
+
+// A milling program: numbered blocks of linear moves, a comment every 50 lines.
+void makeProgram() {
+  static bool made = false;
+  if (made) return;
+  std::string text;
+  text.reserve(40u << 20);
+  char line[96];
+  text += "%\r\nO1000 (GENERATED)\r\n";
+  for (long i = 1; i <= 999998; ++i) {
+    int n;
+    if (i % 50 == 0)
+      n = std::snprintf(line, sizeof line, "N%ld (PASS %ld DEPTH %.2f)\r\n", i * 10, i / 50, -0.25 * (i % 7));
+    else if (i % 10 == 1)
+      n = std::snprintf(line, sizeof line, "N%ld G01 X%.3f Y%.3f Z%.2f F%d\r\n", i * 10, (i % 2000) * 0.125,
+                        -((i * 7) % 1500) * 0.0625, -0.25 * (i % 7), 100 + static_cast<int>(i % 9) * 50);
+    else
+      n = std::snprintf(line, sizeof line, "N%ld X%.3f Y%.3f Z%.2f\r\n", i * 10, (i % 2000) * 0.125,
+                        -((i * 7) % 1500) * 0.0625, -0.25 * (i % 7));
+    text.append(line, static_cast<size_t>(n));
+  }
+  writeFileAtomically(inputPath(), text);
+  std::printf("input: %s, %zu bytes, 1000000 lines\n", inputPath().c_str(), text.size());
+  std::fflush(stdout);
+  made = true;
+}
+
+RichTextFrame frame() {
+  SchemeRecord scheme = bundledSchemes().front();
+  buildSchemeFragments(scheme);
+  const PassFrame pf = makePassFrame(scheme);
+  RichTextFrame f;
+  f.header = pf.header;
+  f.trailer = pf.trailer;
+  f.indentTwips = pf.indentTwips;
+  f.markStart = pf.highlightStart;
+  f.markEnd = pf.highlightEnd;
+  f.commentOpen = "(";
+  f.commentClose = ")";
+  return f;
+}
+
+// Removes the previous result outside the timing, so no run pays for deleting the last one.
+void freshOutput(benchmark::State& state) {
+  state.PauseTiming();
+  std::filesystem::remove(outputPath());
+  state.ResumeTiming();
+}
+
+void expectDone(benchmark::State& state, const PassResult& r) {
+  if (r.outcome != PassOutcome::Completed) state.SkipWithError(r.message.c_str());
+}
+
+void awk(benchmark::State& state, const std::string& program) {
+  makeProgram();
+  const std::string cmd = "LC_ALL=C awk '" + program + "' '" + inputPath() + "' > '" + outputPath() + "'";
+  for (auto _ : state) {
+    freshOutput(state);
+    if (std::system(cmd.c_str()) != 0) state.SkipWithError("awk failed");
+  }
+}
+
+// ---- renumber: every block gets N from 100 by 10 ----
+void renumberLathwick(benchmark::State& state) {
+  makeProgram();
+  RenumberRequest req;
+  req.start = 100;
+  req.increment = 10;
+  req.method = RenumberMethod::ExistingNumbers;
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runRenumber(inputPath(), outputPath(), req, silentMonitor()));
+  }
+}
+void renumberAwk(benchmark::State& state) {
+  // (match and substr: mawk's sub() with a computed replacement is pathologically slow)
+  awk(state, R"(BEGIN{n=100} {sub(/\r$/,""); if (match($0, /^N[-+.,\/0-9]*/)) { $0 = "N" n substr($0, RLENGTH+1); n+=10 } printf "%s\r\n", $0})");
+}
+
+// ---- operate: X, Y and Z times 2, "##0.0###", marked ----
+void operateLathwick(benchmark::State& state) {
+  makeProgram();
+  const RichTextFrame f = frame();
+  OperateRequest req;
+  req.addresses = "XYZ";
+  req.op = '*';
+  req.operand = 2;
+  req.format = "##0.0###";
+  req.displayLineCount = 0;
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runOperate(inputPath(), outputPath(), req, f, silentMonitor()));
+  }
+}
+void operateAwk(benchmark::State& state) {
+  awk(state, R"(BEGIN{print "{\\rtf1 header"} {sub(/\r$/,""); for (i=1;i<=NF;i++) { c=substr($i,1,1); if (c=="X"||c=="Y"||c=="Z") $i=c "\\f0\\cf10 " sprintf("%.4f", substr($i,2)*2) "\\plain\\f0\\cf0 " } printf "\\par\\li0 %s\r\n", $0} END{print "\\par}"})");
+}
+
+// ---- replace all: every "X" becomes "U", marked (one per line) ----
+void replaceLathwick(benchmark::State& state) {
+  makeProgram();
+  const RichTextFrame f = frame();
+  SearchRequest req;
+  req.findText = "X";
+  req.replaceText = "U";
+  req.displayLineCount = 0;
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runReplaceAll(inputPath(), outputPath(), req, f, silentMonitor()));
+  }
+}
+void replaceAwk(benchmark::State& state) {
+  awk(state, R"(BEGIN{print "{\\rtf1 header"} {sub(/\r$/,""); gsub(/[\\{}]/, "\\\\&"); gsub(/X/, "\\f0\\cf10 U\\plain\\f0\\cf0 "); printf "\\par\\li0 %s\r\n", $0} END{print "\\par}"})");
+}
+
+// ---- add spaces and remove spaces ----
+void addSpacesLathwick(benchmark::State& state) {
+  makeProgram();
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runAddSpaces(inputPath(), outputPath(), "(", silentMonitor()));
+  }
+}
+void addSpacesAwk(benchmark::State& state) {
+  awk(state, R"({sub(/\r$/,""); s=$0; o=""; while (match(s, /[0-9.][A-Za-z]/)) { o=o substr(s,1,RSTART) " "; s=substr(s,RSTART+1) } printf "%s%s\r\n", o, s})");
+}
+void removeSpacesLathwick(benchmark::State& state) {
+  makeProgram();
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runRemoveSpaces(inputPath(), outputPath(), "(", silentMonitor()));
+  }
+}
+void removeSpacesAwk(benchmark::State& state) {
+  awk(state, R"({sub(/\r$/,""); p=index($0,"("); if (p) { c=substr($0,1,p); r=substr($0,p+1) } else { c=$0; r="" } gsub(/ /,"",c); printf "%s%s\r\n", c, r})");
+}
+
+// ---- junk filter ----
+void junkLathwick(benchmark::State& state) {
+  makeProgram();
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, runJunkFilter(inputPath(), outputPath(), silentMonitor()));
+  }
+}
+void junkAwk(benchmark::State& state) {
+  awk(state, R"({gsub(/[^ -~]/,""); printf "%s\r\n", $0})");
+}
+
+#define PAIR(name, ours, theirs)                                                                         \
+  BENCHMARK(ours)->Name(name "/lathwick")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3); \
+  BENCHMARK(theirs)->Name(name "/awk")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)
+
+PAIR("renumber", renumberLathwick, renumberAwk);
+PAIR("operate_xyz_times_2", operateLathwick, operateAwk);
+PAIR("replace_all", replaceLathwick, replaceAwk);
+PAIR("add_spaces", addSpacesLathwick, addSpacesAwk);
+PAIR("remove_spaces", removeSpacesLathwick, removeSpacesAwk);
+PAIR("junk_filter", junkLathwick, junkAwk);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,205 @@
+#include "transform/gui/frm_operate.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "platform/errors.h"
+#include "platform/vb_convert.h"
+#include "shell/settings_table.h"
+#include "transform/gui/cancel_flag.h"
+#include "transform/gui/combo_history.h"
+#include "transform/gui/document_pass.h"
+#include "transform/gui/key_filters.h"
+#include "transform/gui/message_box.h"
+#include "transform/gui/text_bytes.h"
+#include "transform/gui/transform_target.h"
+#include "transform/operate.h"
+#include "transform/rich_pass.h"
+
+namespace lathwick::gui {
+
+using namespace lathwick::transform;
+
+namespace {
+
+inline constexpr const char* kAddressKey = "Address";
+inline constexpr const char* kOperatorsKey = "Operators";
+inline constexpr const char* kDefaultAddress = "XYZ";
+inline constexpr const char* kDefaultOperator = "*";
+inline constexpr const char* kDefaultValue = "1";
+inline constexpr const char* kDefaultFormat = "##0.0###";
+
+QComboBox* historyBox(QWidget* parent, const char* name, QValidator* (*filter)(QObject*)) {
+  auto* box = new QComboBox(parent);
+  box->setObjectName(name);
+  box->setEditable(true);
+  box->setInsertPolicy(QComboBox::NoInsert);
+  box->setValidator(filter(box));
+  return box;
+}
+
+QValidator* asValidator(CharacterFilter* f) { return f; }
+QValidator* address(QObject* p) { return asValidator(addressFilter(p)); }
+QValidator* picture(QObject* p) { return asValidator(formatFilter(p)); }
+QValidator* operand(QObject* p) { return asValidator(valueFilter(p)); }
+
+// The stored search options read as one switch: any option turns comment exclusion on.
+bool excludeCommentsSetting(const SettingsStore& settings) {
+  try {
+    return toInt16(settings.get(kStartup, "search", "0")) != 0;
+  } catch (const AppError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  setObjectName("frmOperate");
+  setWindowTitle("Operate");
+  setWindowModality(Qt::ApplicationModal);
+
+  cboAddress_ = historyBox(this, "cboAddress", address);
+  cboAddress_->setToolTip("Enter one or more characters XYZ etc...");
+  cboOperators_ = new QComboBox(this);
+  cboOperators_->setObjectName("cboOperators");
+  cboOperators_->addItems({"*", "+", "-", "/"});
+  cboValue_ = historyBox(this, "cboValue", operand);
+  cboFormat_ = historyBox(this, "cboFormat", picture);
+  connect(cboOperators_, &QComboBox::activated, this, &frmOperate::onOperatorChosen);
+
+  auto* form = new QFormLayout;
+  form->addRow("&Address Characters", cboAddress_);
+  form->addRow("O&perator", cboOperators_);
+  form->addRow("&Value", cboValue_);
+  form->addRow("Output &Format", cboFormat_);
+
+  cmdOK_ = new QPushButton("OK", this);
+  cmdOK_->setObjectName("cmdOK");
+  cmdOK_->setDefault(true);
+  cmdCancel_ = new QPushButton("&Cancel", this);
+  cmdCancel_->setObjectName("cmdCancel");
+  cmdUndo_ = new QPushButton("&Undo", this);
+  cmdUndo_->setObjectName("cmdUndo");
+  cmdUndo_->setEnabled(false);
+  for (QPushButton* b : {cmdCancel_, cmdUndo_}) b->setAutoDefault(false);
+  connect(cmdOK_, &QPushButton::clicked, this, &frmOperate::onOK);
+  connect(cmdCancel_, &QPushButton::clicked, this, &frmOperate::reject);
+  connect(cmdUndo_, &QPushButton::clicked, this, &frmOperate::onUndo);
+
+  lblRange_ = new QLabel(this);
+  lblRange_->setObjectName("lblRange");
+  lblStatus_ = new QLabel(this);
+  lblStatus_->setObjectName("lblStatus");
+  progOperate_ = new QProgressBar(this);
+  progOperate_->setObjectName("progOperate");
+  progOperate_->hide();
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdOK_);
+  buttons->addWidget(cmdCancel_);
+  buttons->addWidget(cmdUndo_);
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(form);
+  layout->addWidget(lblRange_);
+  layout->addWidget(lblStatus_);
+  layout->addWidget(progOperate_);
+  layout->addLayout(buttons);
+}
+
+void frmOperate::loadFields() {
+  loadComboHistory(*cboAddress_, settings_, kDefaultAddress);
+  const std::string storedAddress = settings_.get(kOperate, kAddressKey);
+  if (!storedAddress.empty()) cboAddress_->setEditText(fromBytes(storedAddress));
+  const int op = cboOperators_->findText(fromBytes(settings_.get(kOperate, kOperatorsKey, kDefaultOperator)));
+  cboOperators_->setCurrentIndex(op >= 0 ? op : 0);
+  loadComboHistory(*cboValue_, settings_, kDefaultValue);
+  loadComboHistory(*cboFormat_, settings_, kDefaultFormat);
+}
+
+void frmOperate::showFor(TransformTarget& target) {
+  target_ = &target;
+  loadFields();
+  range_ = operationRange(target.textLength(), target.selectionStart(), target.selectionLength(),
+                          [&target](long position) { return target.lineFromChar(position); });
+  lblRange_->setText(fromBytes(range_.label));
+  lblStatus_->clear();
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmOperate::forget(const TransformTarget* target) {
+  if (target_ != target) return;
+  target_ = nullptr;
+  QDialog::reject();
+}
+
+void frmOperate::onOperatorChosen() {
+  if (cboOperators_->currentText() == "/" && leadingValue(toBytes(cboValue_->currentText())) == 0) {
+    showMessage(this, kDivisionByZeroOnChoice, MessageIcon::Information);
+    cboOperators_->setCurrentText("+");
+  }
+}
+
+void frmOperate::onOK() {
+  if (!target_) return;
+  TransformTarget& target = *target_;
+  const OperateEntries entries{toBytes(cboAddress_->currentText()), toBytes(cboOperators_->currentText()),
+                               toBytes(cboValue_->currentText()), toBytes(cboFormat_->currentText())};
+  const OperateValidation check = validateOperate(entries);
+  if (!check.message.empty()) {
+    showMessage(this, check.message);
+    if (check.resetOperator) cboOperators_->setCurrentText("+");
+    return;
+  }
+  settings_.save(kOperate, kAddressKey, entries.address);
+  settings_.save(kOperate, kOperatorsKey, entries.op);
+  for (QComboBox* box : {cboAddress_, cboValue_, cboFormat_}) updateComboHistory(*box, settings_, kOperateHistoryLength);
+
+  try {
+    OperateRequest request;
+    request.addresses = entries.address;
+    request.op = entries.op.front();
+    request.operand = leadingValue(entries.value);
+    request.format = entries.format;
+    request.excludeComments = excludeCommentsSetting(settings_);
+    request.range = range_.lines;
+    request.displayLineCount = target.lineCount();
+    const RichTextFrame frame = richTextFrameOf(target.passFrame());
+    std::optional<PassResult> result;
+    {
+      const ButtonsHeld held(*this, cmdCancel_);
+      result = runDocumentPass(target, progOperate_, this,
+                               [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+                                 return runOperate(in, out, request, frame, monitor);
+                               });
+    }
+    if (!result || result->outcome != PassOutcome::Completed) return;
+    if (result->reload) {
+      target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
+      target.setFileUndoable(true);
+      cmdUndo_->setEnabled(true);
+    }
+    lblStatus_->setText(fromBytes(result->statusLabel));
+  } catch (const AppError& e) {
+    showMessage(this, passErrorMessage(e.number(), e.description(), kOperateErrorEnding), MessageIcon::Exclamation);
+  }
+}
+
+void frmOperate::onUndo() {
+  if (target_) target_->undo();
+  cmdUndo_->setEnabled(false);
+}
+
+void frmOperate::reject() {
+  requestCancel();
+  QDialog::reject();
+}
+
+}  // namespace lathwick::gui

@@ -1,0 +1,69 @@
+#include "transform/gui/qt_pass_monitor.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QProgressBar>
+#include <climits>
+
+#include "transform/gui/cancel_flag.h"
+#include "transform/gui/frm_prog.h"
+
+namespace lathwick::gui {
+
+namespace {
+int barValue(long v) { return v > INT_MAX ? INT_MAX : static_cast<int>(v); }
+}  // namespace
+
+QtPassMonitor::QtPassMonitor(QProgressBar* bar, StatusSink status, QWidget* formParent)
+    : bar_(bar), status_(std::move(status)), formParent_(formParent) {}
+
+QtPassMonitor::~QtPassMonitor() { progressEnd(); }
+
+QProgressBar* QtPassMonitor::activeBar() const { return form_ ? form_->bar() : bar_.data(); }
+
+void QtPassMonitor::progressStart(long total) {
+  if (!bar_ && !form_) {
+    form_ = std::make_unique<frmProg>(formParent_);
+    form_->setModal(true);
+  }
+  QProgressBar* bar = activeBar();
+  if (!bar) return;
+  bar->setMaximum(barValue(total));
+  bar->setValue(0);
+  if (form_) form_->show();
+  else bar->show();
+  showing_ = true;
+}
+
+void QtPassMonitor::progressValue(long value) {
+  if (QProgressBar* bar = activeBar(); bar && showing_) bar->setValue(barValue(value));
+}
+
+void QtPassMonitor::progressEnd() {
+  if (!showing_) return;
+  showing_ = false;
+  if (form_) {
+    form_->hide();
+    form_.reset();
+  } else if (bar_) {
+    bar_->hide();
+  }
+}
+
+void QtPassMonitor::pumpEvents() {
+  if (sincePump_.isValid() && sincePump_.elapsed() < kPumpIntervalMs) return;
+  QCoreApplication::processEvents();
+  sincePump_.start();
+}
+
+bool QtPassMonitor::cancelRequested() const { return gui::cancelRequested(); }
+void QtPassMonitor::clearCancel() { gui::clearCancel(); }
+
+void QtPassMonitor::statusText(const char* text) {
+  if (status_) status_(text);
+}
+
+BusyCursor::BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+BusyCursor::~BusyCursor() { QApplication::restoreOverrideCursor(); }
+
+}  // namespace lathwick::gui

@@ -1,0 +1,209 @@
+// Operate: validation order and texts, the word operation, the comment acceptance rule, the
+// markers, and the numeric picture.
+#include <gtest/gtest.h>
+
+#include "platform/errors.h"
+#include "support/temp_dir.h"
+#include "transform/numeric_picture.h"
+#include "transform/operate.h"
+#include "transform/rich_text_escape.h"
+
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
+using namespace lathwick::transform;
+
+namespace {
+RichTextFrame frame() {
+  RichTextFrame f;
+  f.header = "H";
+  f.trailer = "T";
+  f.markStart = "<";
+  f.markEnd = ">";
+  f.commentOpen = "(";
+  f.commentClose = ")";
+  return f;
+}
+
+std::string operated(const std::string& raw, const std::string& addresses, char op, double operand,
+                     const std::string& format = "##0.0###", bool exclude = false, long* count = nullptr) {
+  OperateRequest req;
+  req.addresses = addresses;
+  req.op = op;
+  req.operand = operand;
+  req.format = format;
+  req.excludeComments = exclude;
+  OperateLine o(req, frame());
+  std::string line = escapeRichText(raw);
+  const long n = o.apply(raw, line);
+  if (count) *count = n;
+  return line;
+}
+
+std::string pic(double v, const char* picture) { return NumericPicture(picture).format(v); }
+}  // namespace
+
+TEST(NumericPicture, ZerosAreAlwaysShownHashesOnlyWhenSignificant) {
+  EXPECT_EQ(pic(15, "##0.0###"), "15.0");
+  EXPECT_EQ(pic(0.25, "##0.0###"), "0.25");
+  EXPECT_EQ(pic(0, "##0.0###"), "0.0");
+  EXPECT_EQ(pic(0.5, "#.##"), ".5");
+  EXPECT_EQ(pic(5, "000"), "005");
+  EXPECT_EQ(pic(5, "#00"), "05");
+  EXPECT_EQ(pic(12345, "0"), "12345");
+  EXPECT_EQ(pic(1.5, "0.000"), "1.500");
+  EXPECT_EQ(pic(15, "0."), "15.");
+  EXPECT_EQ(pic(1.25, "0.#0#"), "1.25");
+  EXPECT_EQ(pic(1.2, "0.#0#"), "1.20");
+}
+
+TEST(NumericPicture, RoundsHalfAwayFromZeroAfterFifteenSignificantDigits) {
+  EXPECT_EQ(pic(2.5, "0"), "3");
+  EXPECT_EQ(pic(-2.5, "0"), "-3");
+  EXPECT_EQ(pic(0.125, "0.00"), "0.13");
+  EXPECT_EQ(pic(2.675, "0.00"), "2.68");  // 2.67499999... in binary, 2.675 in 15 digits
+  EXPECT_EQ(pic(0.1 * 3, "0.0################"), "0.3");
+  EXPECT_EQ(pic(9.9996, "0.000"), "10.000");
+  EXPECT_EQ(pic(0.0004, "#.###"), ".");
+  EXPECT_EQ(pic(0.0005, "0.000"), "0.001");
+  EXPECT_EQ(pic(1e20, "0"), "100000000000000000000");
+}
+
+TEST(NumericPicture, MinusOnlyWhenTheShownNumberIsNotZero) {
+  EXPECT_EQ(pic(-0.5, "##0.0###"), "-0.5");
+  EXPECT_EQ(pic(-0.00001, "0.0"), "0.0");
+  EXPECT_EQ(pic(-0.0, "0"), "0");
+  EXPECT_EQ(pic(-1234.56789, "0.00"), "-1234.57");
+}
+
+TEST(NumericPicture, AcceptsOnlyZeroHashAndOnePoint) {
+  EXPECT_TRUE(NumericPicture::isValid("##0.0###"));
+  EXPECT_TRUE(NumericPicture::isValid(""));
+  EXPECT_FALSE(NumericPicture::isValid("0.0.0"));
+  EXPECT_FALSE(NumericPicture::isValid("#,##0"));
+  EXPECT_THROW(NumericPicture("0E+0"), lathwick::AppError);
+}
+
+TEST(Operate, ValidationOrderAndTexts) {
+  EXPECT_EQ(validateOperate({"XYZ", "/", "0", "0.0"}).message, "Division by zero not allowed");
+  EXPECT_TRUE(validateOperate({"XYZ", "/", "0", "0.0"}).resetOperator);
+  EXPECT_EQ(validateOperate({"", "/", "", ""}).message, "Division by zero not allowed");  // first check wins
+  EXPECT_EQ(validateOperate({"", "*", "", ""}).message, "Value is required.");
+  EXPECT_EQ(validateOperate({"", "*", "2", ""}).message, "Address is required.");
+  EXPECT_EQ(validateOperate({"X", "*", "2", ""}).message, "Format is required.");
+  EXPECT_EQ(validateOperate({"X", "/", "0.5", "0"}).message, "");
+  EXPECT_FALSE(validateOperate({"X", "/", "0.5", "0"}).resetOperator);
+}
+
+TEST(Operate, ReadsTheLeadingNumberOfAValue) {
+  EXPECT_EQ(leadingValue("1.5/2"), 1.5);
+  EXPECT_EQ(leadingValue("+5"), 5);
+  EXPECT_EQ(leadingValue("-"), 0);
+  EXPECT_EQ(leadingValue("-.5"), -0.5);
+  EXPECT_EQ(leadingValue("5."), 5);
+  EXPECT_EQ(leadingValue("1-2"), 1);
+  EXPECT_EQ(leadingValue("--5"), 0);
+}
+
+TEST(Operate, ScalesEveryChosenAddressAndMarksTheNewValues) {
+  long n = 0;
+  EXPECT_EQ(operated("X10 Y-2.5 Z.1", "XYZ", '*', 2, "##0.0###", false, &n), "X<20.0> Y<-5.0> Z<0.2>");
+  EXPECT_EQ(n, 3);
+  EXPECT_EQ(operated("X-1", "X", '+', 0.5), "X<-0.5>");
+  EXPECT_EQ(operated("X+5", "X", '-', 1), "X<4.0>");
+  EXPECT_EQ(operated("X6 X8", "X", '/', 4), "X<1.5> X<2.0>");
+  EXPECT_EQ(operated("X1.5/2,Y", "X", '*', 1), "X<1.5>,Y");  // the stepped-over "/2" goes too
+}
+
+TEST(Operate, LoneLettersLowerCaseAndOtherLettersAreLeftAlone) {
+  long n = 0;
+  EXPECT_EQ(operated("X G01 x5 X", "X", '*', 2, "0", false, &n), "X G01 x5 X");
+  EXPECT_EQ(n, 0);
+  EXPECT_EQ(operated("G01 X1 F100", "XY", '*', 2, "0", false, &n), "G01 X<2> F100");
+  EXPECT_EQ(n, 1);
+}
+
+TEST(Operate, MarkersFollowTheValuesWhenAnEarlierValueChangesLength) {
+  // X comes first in the addresses but last in the line; Y's longer value moves it right.
+  EXPECT_EQ(operated("Y1 X1", "XY", '*', 10, "0.000"), "Y<10.000> X<10.000>");
+}
+
+TEST(Operate, ACompleteCommentBlocksTheWholeLineWhenCommentsAreExcluded) {
+  long n = 0;
+  EXPECT_EQ(operated("G01 X1 (MOVE X)", "X", '*', 2, "0", true, &n), "G01 X1 (MOVE X)");
+  EXPECT_EQ(n, 0);
+  // An opening delimiter without a closing one: letters up to it still count.
+  EXPECT_EQ(operated("G01 X1 (MOVE X2", "X", '*', 2, "0", true, &n), "G01 X<2> (MOVE X2");
+  EXPECT_EQ(n, 1);
+  // Without exclusion the comment's values change too.
+  EXPECT_EQ(operated("G01 X1 (MOVE X2)", "X", '*', 2, "0"), "G01 X<2> (MOVE X<4>)");
+}
+
+TEST(Operate, PassCountsOperationsAndOverflowFailsTheOperation) {
+  lathwick::test::TempDir dir;
+  OperateRequest req;
+  req.operand = 2;
+  auto r = runOperate(dir.write("in.txt", "X10 Y-2.5 Z.1\r\nM30\r\n"), dir.file("out.rtf"), req, frame(),
+                      lathwick::silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::Completed);
+  EXPECT_EQ(r.statusLabel, "3 Operations made.");
+  EXPECT_EQ(dir.read("out.rtf"), "H\r\n\\li0 X<20.0> Y<-5.0> Z<0.2>\r\n\\par\\li0 M30\r\nT\r\n");
+
+  req.operand = 1e300;
+  r = runOperate(dir.write("big.txt", "X1" + std::string(20, '9') + "\r\n"), dir.file("big.rtf"), req, frame(),
+                 lathwick::silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::Failed);
+  EXPECT_EQ(r.message, "The error 6 Overflow occurred during the operation.");
+  EXPECT_FALSE(std::filesystem::exists(dir.file("big.rtf")));
+}
+
+TEST(NumericPicture, QuickDigitsAgreeWithTheExactOnesOrDecline) {
+  // Values as programs hold them, and values built to sit on rounding ties and powers of ten.
+  std::vector<double> values = {1e-5, 0.1, 0.3, 1, 9.99999999999999, 10, 99.99999999999995, 123456789012345,
+                                999999999999999.4, 2.675, 0.125, 1.0000000000000002, 5e-5};
+  std::uint64_t seed = 88172645463325252ULL;
+  for (int i = 0; i < 200000; ++i) {
+    seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+    const double unit = static_cast<double>(seed >> 11) / 9007199254740992.0;
+    values.push_back(unit * std::pow(10.0, static_cast<int>(seed % 21) - 6));
+    values.push_back(static_cast<double>(seed % 2000000) / 1000.0 * 2);  // scaled program values
+  }
+  int quick = 0;
+  for (const double v : values) {
+    if (v == 0) continue;
+    DecimalDigits a, b;
+    exactDecimalDigits(v, b);
+    if (!quickDecimalDigits(v, a)) continue;
+    ++quick;
+    ASSERT_EQ(std::string(a.digits, 15), std::string(b.digits, 15)) << v;
+    ASSERT_EQ(a.pointPos, b.pointPos) << v;
+  }
+  EXPECT_GT(quick, 300000);  // the quick way answers nearly always
+}
+
+TEST(Operate, ShortAndLongValuesReadTheSame) {
+  EXPECT_EQ(leadingValue("0.1"), 0.1);
+  EXPECT_EQ(leadingValue("123456789012.345"), 123456789012.345);
+  EXPECT_EQ(leadingValue("1234567890123456789"), 1234567890123456789.0);
+  EXPECT_EQ(leadingValue("0.00000000000000000001"), 1e-20);
+  EXPECT_EQ(leadingValue("-2.675"), -2.675);
+  EXPECT_EQ(leadingValue("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_THROW(leadingValue("1" + std::string(400, '0')), lathwick::AppError);
+}
+
+TEST(NumericPicture, QuickRouteAgreesWithTheDigitByDigitWay) {
+  const char* pictures[] = {"##0.0###", "0", "#", "0.", "#.##", "000.000", "0.0##############", "#0.#0#", ".00"};
+  std::uint64_t seed = 0x9E3779B97F4A7C15ULL;
+  for (const char* text : pictures) {
+    const NumericPicture picture(text);
+    for (int i = 0; i < 20000; ++i) {
+      seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+      const double unit = static_cast<double>(seed >> 11) / 9007199254740992.0;
+      double v = unit * std::pow(10.0, static_cast<int>(seed % 22) - 7);
+      if (seed & 1) v = -v;
+      if (seed & 2) v = std::round(v * 1000) / 1000 + 0.0005;  // near the ties of 3 places
+      ASSERT_EQ(picture.format(v), picture.formatByDigits(v)) << text << " " << v;
+    }
+  }
+}

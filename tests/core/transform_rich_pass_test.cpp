@@ -1,0 +1,189 @@
+// The rich-text pass shared by replace, highlight and operate: framing, escaping, range,
+// progress, cancellation and the outcomes it hands back.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "document/line_ending_checks.h"
+#include "support/temp_dir.h"
+#include "transform/rich_pass.h"
+
+using namespace lathwick::transform;
+using lathwick::test::TempDir;
+
+namespace {
+
+RichTextFrame testFrame() {
+  RichTextFrame f;
+  f.header = "{\\rtf1 H}   ";
+  f.trailer = "\\par}  ";
+  f.indentTwips = 400;
+  f.markStart = "<";
+  f.markEnd = ">";
+  f.commentOpen = "(";
+  f.commentClose = ")";
+  return f;
+}
+
+// Upper-cases the line and counts one change per line that had a lower-case letter, marking
+// its first character.
+class UpperCase : public RichLineTransform {
+ public:
+  long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override {
+    raws.emplace_back(raw);
+    bool changed = false;
+    for (char& c : line)
+      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32), changed = true;
+    if (changed) marks.push_back({0, 1});
+    return changed ? 1 : 0;
+  }
+  std::vector<std::string> raws;
+};
+
+class RecordingMonitor : public lathwick::PassMonitor {
+ public:
+  void progressStart(long total) override { starts.push_back(total); }
+  void progressValue(long v) override { values.push_back(v); }
+  void progressEnd() override { ++ends; }
+  void pumpEvents() override { ++pumps; }
+  bool cancelRequested() const override { return cancelAfter > 0 && pumps >= cancelAfter; }
+  void clearCancel() override { ++clears; }
+  void statusText(const char* t) override { statuses.emplace_back(t); }
+  std::vector<long> starts, values;
+  int ends = 0, clears = 0;
+  long pumps = 0, cancelAfter = 0;
+  std::vector<std::string> statuses;
+};
+
+RichPassSettings settingsFor(long lines = -1) {
+  RichPassSettings s;
+  s.statusText = "Working... [Esc] to cancel";
+  s.countPhrase = " Things made.";
+  s.errorEnding = " occurred during the test.";
+  s.displayLineCount = lines;
+  return s;
+}
+
+std::string lines(int n) {
+  std::string s;
+  for (int i = 0; i < n; ++i) s += "g1\r\n";
+  return s;
+}
+
+}  // namespace
+
+TEST(RichPass, WritesHeaderEscapedParagraphsAndTrailer) {
+  TempDir dir;
+  const auto in = dir.write("in.txt", "a{b}\r\nc\\d\r\nE");
+  UpperCase t;
+  RecordingMonitor m;
+  const auto r = runRichPass(in, dir.file("out.rtf"), testFrame(), LineRange{}, t, settingsFor(), m);
+  EXPECT_EQ(r.outcome, PassOutcome::Completed);
+  EXPECT_EQ(r.count, 2);
+  EXPECT_TRUE(r.reload);
+  EXPECT_EQ(r.statusLabel, "2 Things made.");
+  EXPECT_EQ(dir.read("out.rtf"),
+            "{\\rtf1 H}\r\n\\li400 <A>\\{B\\}\r\n\\par\\li400 <C>\\\\D\r\n\\par\\li400 E\r\n\\par}\r\n");
+  EXPECT_EQ(t.raws, (std::vector<std::string>{"a{b}", "c\\d", "E"}));
+  EXPECT_EQ(m.statuses, (std::vector<std::string>{"Working... [Esc] to cancel", "Press F1 for help."}));
+  EXPECT_EQ(m.clears, 1);
+}
+
+TEST(RichPass, OnlyLinesInRangeAreTransformedAndNoChangeMeansNoReload) {
+  TempDir dir;
+  const auto in = dir.write("in.txt", "a\r\nb\r\nc\r\n");
+  UpperCase t;
+  const auto r = runRichPass(in, dir.file("out.rtf"), testFrame(), LineRange{2, 2}, t, settingsFor(),
+                             lathwick::silentMonitor());
+  EXPECT_EQ(r.count, 1);
+  EXPECT_NE(dir.read("out.rtf").find("\\li400 a\r\n\\par\\li400 <B>\r\n\\par\\li400 c\r\n"), std::string::npos);
+
+  const auto in2 = dir.write("upper.txt", "A\r\nB");
+  const auto r2 = runRichPass(in2, dir.file("out2.rtf"), testFrame(), LineRange{}, t, settingsFor(),
+                              lathwick::silentMonitor());
+  EXPECT_EQ(r2.outcome, PassOutcome::Completed);
+  EXPECT_EQ(r2.count, 0);
+  EXPECT_FALSE(r2.reload);
+  EXPECT_EQ(r2.statusLabel, "0 Things made.");
+  EXPECT_FALSE(dir.read("out2.rtf").empty());  // still written, for the batch tool
+}
+
+TEST(RichPass, EmptyInputGivesHeaderAndTrailerOnly) {
+  TempDir dir;
+  UpperCase t;
+  const auto r = runRichPass(dir.write("in.txt", ""), dir.file("out.rtf"), testFrame(), LineRange{}, t,
+                             settingsFor(), lathwick::silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::Completed);
+  EXPECT_EQ(dir.read("out.rtf"), "{\\rtf1 H}\r\n\\par}\r\n");
+}
+
+TEST(RichPass, ProgressOnlyAbove200LinesEveryHundredth) {
+  TempDir dir;
+  UpperCase t;
+  RecordingMonitor at200;
+  runRichPass(dir.write("a.txt", lines(200)), dir.file("a.rtf"), testFrame(), LineRange{}, t, settingsFor(), at200);
+  EXPECT_TRUE(at200.starts.empty());
+  EXPECT_TRUE(at200.values.empty());
+  EXPECT_GE(at200.pumps, 200);  // events still run once per line
+
+  RecordingMonitor at201;
+  runRichPass(dir.write("b.txt", lines(201)), dir.file("b.rtf"), testFrame(), LineRange{}, t, settingsFor(), at201);
+  ASSERT_EQ(at201.starts, std::vector<long>{201});
+  EXPECT_EQ(at201.ends, 1);
+  // Step 2: reported before reading lines 1, 3, 5, ... and at the end of input.
+  ASSERT_FALSE(at201.values.empty());
+  EXPECT_EQ(at201.values.front(), 0);
+  EXPECT_EQ(at201.values[1], 2);
+  EXPECT_EQ(at201.values.back(), 200);
+  EXPECT_EQ(at201.values.size(), 101u);
+}
+
+TEST(RichPass, DisplayLineCountFromTheEditorDecidesTheProgress) {
+  TempDir dir;
+  UpperCase t;
+  RecordingMonitor m;
+  runRichPass(dir.write("a.txt", lines(10)), dir.file("a.rtf"), testFrame(), LineRange{}, t, settingsFor(1000), m);
+  EXPECT_EQ(m.starts, std::vector<long>{1000});
+  EXPECT_EQ(m.values, (std::vector<long>{0, 10}));
+}
+
+TEST(RichPass, CancelStopsAfterTheLineInHandAndWritesNothing) {
+  TempDir dir;
+  UpperCase t;
+  RecordingMonitor m;
+  m.cancelAfter = 3;
+  const auto out = dir.write("out.rtf", "previous");
+  const auto r = runRichPass(dir.write("a.txt", lines(10)), out, testFrame(), LineRange{}, t, settingsFor(), m);
+  EXPECT_EQ(r.outcome, PassOutcome::Cancelled);
+  EXPECT_EQ(r.message, "Operation canceled by user.");
+  EXPECT_EQ(r.title, "Operation Incomplete.");
+  EXPECT_FALSE(r.reload);
+  EXPECT_EQ(t.raws.size(), 3u);
+  EXPECT_EQ(dir.read("out.rtf"), "previous");
+}
+
+TEST(RichPass, BareLineFeedsAreRefusedWithTheJunkFilterMessage) {
+  TempDir dir;
+  UpperCase t;
+  const auto r = runRichPass(dir.write("a.txt", "G00\nG01\n"), dir.file("out.rtf"), testFrame(), LineRange{}, t,
+                             settingsFor(), lathwick::silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::Refused);
+  EXPECT_EQ(r.message, lathwick::kJunkFilterMessage);
+  EXPECT_TRUE(t.raws.empty());
+  EXPECT_FALSE(std::filesystem::exists(dir.file("out.rtf")));
+}
+
+TEST(RichPass, MissingInputIsNoInputAndUnwritableOutputFails) {
+  TempDir dir;
+  UpperCase t;
+  const auto r = runRichPass(dir.file("none.txt"), dir.file("out.rtf"), testFrame(), LineRange{}, t, settingsFor(),
+                             lathwick::silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::NoInput);
+  EXPECT_EQ(r.errorNumber, 53);
+
+  const auto r2 = runRichPass(dir.write("a.txt", "x"), dir.file("no/such/folder/out.rtf"), testFrame(), LineRange{},
+                              t, settingsFor(), lathwick::silentMonitor());
+  EXPECT_EQ(r2.outcome, PassOutcome::Failed);
+  EXPECT_EQ(r2.message.rfind("The error 76 ", 0), 0u) << r2.message;
+  EXPECT_NE(r2.message.find(" occurred during the test."), std::string::npos);
+}

@@ -1,0 +1,114 @@
+// The renumber dialog through its OK button: the methods on the sample program, a selection
+// range, the empty sequence character, the settings of section "Numbering" and the digit
+// filters of the number fields.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "dialog_fixture.h"
+#include "transform/gui/frm_renumber.h"
+
+using namespace lathwick;
+using namespace lathwick::gui;
+using lathwick::test::FakeDocument;
+
+namespace {
+
+const std::vector<std::string> kProgram{"%", "O1000", "(SETUP)", "G00 X0", "N5 G01 X1"};
+
+class RenumberDialog : public ::testing::Test {
+ protected:
+  RenumberDialog() : scoped(boxes) {}
+  template <class T>
+  T* child(const char* name) {
+    T* w = dialog->findChild<T*>(name);
+    EXPECT_NE(w, nullptr) << name;
+    return w;
+  }
+  void fill(const char* start, const char* step, int method) {
+    child<QLineEdit>("txtStart")->setText(start);
+    child<QLineEdit>("txtStep")->setText(step);
+    child<QRadioButton>(("Option1_" + std::to_string(method)).c_str())->click();
+  }
+  void ok() { child<QPushButton>("cmdOK")->click(); }
+
+  QApplication& app = test::testApp();
+  test::TempDir configDir;
+  SettingsStore settings{configDir.file("Lathwick.ini")};
+  RecordingMessageBoxes boxes;
+  ScopedMessageBoxes scoped;
+  std::unique_ptr<frmRenumber> dialog = std::make_unique<frmRenumber>(settings);
+};
+
+TEST_F(RenumberDialog, EachMethodOnTheSampleProgram) {
+  const std::vector<std::pair<int, std::string>> cases{
+      {2, "%\nN100O1000\n(SETUP)\nN110G00 X0\nN120 G01 X1"},
+      {0, "%\nN100O1000\nN110(SETUP)\nN120G00 X0\nN130 G01 X1"},
+  };
+  for (const auto& [method, expected] : cases) {
+    FakeDocument doc(kProgram);
+    dialog = std::make_unique<frmRenumber>(settings);
+    dialog->showFor(doc);
+    EXPECT_EQ(child<QLabel>("lblRange")->text().toStdString(), "Range= All Lines");
+    fill("100", "10", method);
+    ok();
+    ASSERT_EQ(doc.reloads, 1) << method;
+    EXPECT_EQ(doc.lastFormat, ReloadFormat::Plain);
+    EXPECT_EQ(doc.text, expected) << "method " << method;
+    EXPECT_TRUE(doc.fileUndoable);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Renumbering file...", "Press F1 for help."}));
+  }
+  EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(RenumberDialog, OneLineSelectionStaysARange) {
+  FakeDocument doc({"G00 X0", "G01 X1", "G01 X2"});
+  doc.selStart = 8;  // inside line 2
+  doc.selLength = 2;
+  dialog->showFor(doc);
+  EXPECT_EQ(child<QLabel>("lblRange")->text().toStdString(), "Range= Line 2 to 2");
+  fill("5", "5", 2);
+  ok();
+  EXPECT_EQ(doc.text, "G00 X0\nN5G01 X1\nG01 X2");
+}
+
+TEST_F(RenumberDialog, EmptySequenceCharacterIsRefusedAndTheDialogStays) {
+  FakeDocument doc(kProgram);
+  dialog->showFor(doc);
+  child<QLineEdit>("txtSeqChr")->setText("   ");
+  ok();
+  ASSERT_EQ(boxes.shown.size(), 1u);
+  EXPECT_EQ(boxes.shown[0].text, "Sequence character must be specified.");
+  EXPECT_EQ(boxes.shown[0].title, "Error");
+  EXPECT_EQ(doc.reloads, 0);
+  EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(RenumberDialog, FieldsComeFromAndGoBackToTheNumberingSettings) {
+  settings.save("Numbering", "Character", "O");
+  settings.save("Numbering", "Method", "1");
+  settings.save("Numbering", "Start", "7");
+  dialog = std::make_unique<frmRenumber>(settings);
+  EXPECT_EQ(child<QLineEdit>("txtSeqChr")->text(), "O");
+  EXPECT_EQ(child<QLineEdit>("txtStep")->text(), "1");  // default
+  EXPECT_EQ(child<QLineEdit>("txtSkipLines")->text(), "%");
+  EXPECT_TRUE(child<QRadioButton>("Option1_1")->isChecked());
+  EXPECT_EQ(dialog->method(), 1);
+
+  FakeDocument doc(kProgram);
+  dialog->showFor(doc);
+  child<QRadioButton>("Option1_0")->click();
+  test::typeKeys(child<QLineEdit>("txtStep"), "2x5");  // letters are discarded
+  EXPECT_EQ(child<QLineEdit>("txtStep")->text(), "125");
+  child<QPushButton>("Command1")->click();  // cancel: nothing changes, the fields are kept
+  EXPECT_EQ(doc.reloads, 0);
+  EXPECT_EQ(settings.get("Numbering", "Method"), "0");
+  EXPECT_EQ(settings.get("Numbering", "Increment"), "125");
+  EXPECT_EQ(settings.get("Numbering", "Character"), "O");
+}
+
+}  // namespace
