@@ -5,9 +5,9 @@
 #include "document/gui/frm_editor.h"
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
-#include "shell/gui/frm_prog.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/status_panels.h"
+#include "transform/gui/qt_pass_monitor.h"
 
 namespace lathwick::gui {
 
@@ -29,9 +29,13 @@ void frmEditor::Colorize(int view) {
   }
   ColorizeResult result;
   {
-    FramePassMonitor monitor(frame_);
+    BusyCursor busy;
+    frame_.setPassRunning(true);
+    QtPassMonitor monitor(nullptr, [this](const std::string& text) { frame_.statusPanels().setText("Stat", text); },
+                          &frame_);
     result = colorizeFile(*scheme, view == 0 ? ColorizeView::Modes : ColorizeView::Codes, values.Temp2File,
                           values.Temp3File, monitor);
+    frame_.setPassRunning(false);
   }
   frame_.statusPanels().setText("Stat", kReadyStatus);
   Dialogs& dialogs = frame_.dialogs();

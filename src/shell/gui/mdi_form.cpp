@@ -19,9 +19,9 @@
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
-#include "shell/gui/frm_prog.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
+#include "transform/gui/cancel_flag.h"
 
 namespace lathwick::gui {
 namespace {
@@ -341,14 +341,9 @@ void MDIForm1::onBookmark(int number, Qt::MouseButton button) {
   }
 }
 
-frmProg& MDIForm1::progressForm() {
-  if (!progress_) progress_ = new frmProg(this, cancel_);
-  return *progress_;
-}
-
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
   if (passRunning_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    cancel_ = true;  // Esc stops a running pass wherever the focus is
+    requestCancel();  // Esc stops a running pass wherever the focus is
     return true;
   }
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {

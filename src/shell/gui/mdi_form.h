@@ -28,7 +28,6 @@ class QToolButton;
 namespace lathwick::gui {
 
 class frmEditor;
-class frmProg;
 class MenuSet;
 class StatusPanels;
 
@@ -89,13 +88,9 @@ class MDIForm1 : public QMainWindow {
   void setCurrentScheme(std::int16_t scheme) { currentScheme_ = scheme; }
   const std::string& lastPath() const { return lastPath_; }
 
-  // Long passes: the process-wide cancel flag (Esc anywhere in the program sets it while a pass
-  // runs) and the progress form, made when first needed.
-  bool& cancelFlag() { return cancel_; }
+  // While a long pass runs, Esc anywhere in the program sets the process-wide cancel flag.
   void setPassRunning(bool running) { passRunning_ = running; }
   bool passRunning() const { return passRunning_; }
-  frmProg& progressForm();
-  bool hasProgressForm() const { return progress_ != nullptr; }
 
   // The windows that share the one undo file.
   FileUndoGroup& undoGroup() { return undoGroup_; }
@@ -161,9 +156,7 @@ class MDIForm1 : public QMainWindow {
   bool autoFormat_ = false;
   std::int16_t currentScheme_ = 1;
   bool dataFileProblemShown_ = false;
-  bool cancel_ = false;
   bool passRunning_ = false;
-  frmProg* progress_ = nullptr;
   std::optional<SchemeRecord> schemeRecord_;
   std::int16_t schemeRecordNumber_ = 0;
   bool capsLock_ = false, numLock_ = false;
