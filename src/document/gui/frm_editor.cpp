@@ -40,7 +40,7 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoa
   connect(text_, &TextControl::selectionChanged, this, &frmEditor::onSelectionChanged);
 }
 
-frmEditor::~frmEditor() = default;
+frmEditor::~frmEditor() { frame_.forgetTarget(this); }
 
 RichTextBox& frmEditor::richTextBox() const { return rich_->box(); }
 
@@ -93,9 +93,7 @@ void frmEditor::ShowLineNum() {
                                              std::to_string(LineCount()) + " ");
 }
 
-int frmEditor::selectionLength() const {
-  return static_cast<int>(correctedSelectionLength(text_->selStart(), text_->selLength()));
-}
+long frmEditor::selectionLength() const { return correctedSelectionLength(text_->selStart(), text_->selLength()); }
 
 void frmEditor::En_Dis_able() {
   const bool selection = selectionLength() >= 1;
@@ -121,7 +119,7 @@ void frmEditor::onTextChanged() {
 }
 
 void frmEditor::onSelectionChanged() {
-  const int length = selectionLength();
+  const int length = static_cast<int>(selectionLength());
   if (length >= 1) frame_.lastSelection() = LastSelection{text_->selStart(), length, text_->selText()};
   if (frame_.activeEditor() == this) En_Dis_able();
 }

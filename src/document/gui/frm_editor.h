@@ -8,6 +8,8 @@
 
 #include "document/gui/reload_document.h"
 #include "document/gui/text_control.h"
+#include "transform/gui/transform_target.h"
+#include "transform/pass_result.h"
 
 namespace lathwick {
 struct DocumentRecord;
@@ -20,7 +22,7 @@ class MDIForm1;
 class MenuSet;
 class RichTextControl;
 
-class frmEditor : public QWidget {
+class frmEditor : public QWidget, public TransformTarget {
   Q_OBJECT
  public:
   frmEditor(MDIForm1& frame, int tag);
@@ -37,10 +39,9 @@ class frmEditor : public QWidget {
 
   std::string filename() const;
   int LineCount() const { return text_->lineCount(); }
-  int selectionLength() const;  // corrected: never negative
   int currentLine() const { return text_->lineFromChar(text_->selStart()); }
   bool FileUndoable() const { return undoable_.get(); }
-  void setFileUndoable(bool undoable);  // true clears the flag on every other window first
+  void setFileUndoable(bool undoable) override;  // true clears the flag on every other window first
 
   // The one way a whole-document result enters the window: the present text goes to the undo
   // file first (unless the undo file itself is loaded) and the view is kept. False when the load
@@ -84,6 +85,29 @@ class frmEditor : public QWidget {
 
   const std::string& keptLine() const { return cutLine_; }
 
+  // The plain-text passes of the Options menu, through the work files and reloadDocument.
+  void AddSpaces();
+  void RemoveSpaces();
+  void JunkFilter();
+
+  // What the transformation dialogs see of the document.
+  long textLength() const override;
+  long selectionStart() const override;
+  long selectionLength() const override;
+  std::string selectedText() const override;
+  long lineFromChar(long position) const override;
+  long lineCount() const override;
+  bool savePlainText(const std::string& path) override;
+  void reloadDocument(const std::string& path, ReloadFormat format) override;
+  void undo() override { Undo(); }
+  void setStatusText(const std::string& text) override;
+  PassFrame passFrame() const override;
+  std::string commentStartText() const override;
+  std::string inputWorkFile() const override;
+  std::string outputWorkFile() const override;
+  long find(std::string_view text, long start, long end, int flags) override;
+  void replaceSelection(std::string_view text) override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -92,6 +116,7 @@ class frmEditor : public QWidget {
   void onTextChanged();
   void onSelectionChanged();
   bool handleAltKey(int key);
+  void showPassResult(const transform::PassResult& result);
 
   MDIForm1& frame_;
   int tag_;

@@ -22,6 +22,7 @@
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 #include "transform/gui/cancel_flag.h"
+#include "transform/gui/transform_dialogs.h"
 
 namespace lathwick::gui {
 namespace {
@@ -52,6 +53,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
   setCentralWidget(mdi_);
 
+  transforms_ = std::make_unique<TransformDialogs>(settings_, this);
   registerCommands();
   frameMenus_ = std::make_unique<MenuSet>(frameMenuTable(), this, commands_, false);
   for (const char* name : {"mnuToolbar", "mnuStatus", "mnuAuto"}) frameMenus_->action(name)->setCheckable(true);
@@ -68,6 +70,7 @@ MDIForm1::~MDIForm1() {
   qApp->removeEventFilter(this);
   // The documents go first: their windows still reach the frame while they are torn down.
   for (QMdiSubWindow* sub : mdi_->subWindowList()) delete sub;
+  transforms_.reset();
 }
 
 void MDIForm1::registerCommands() {
@@ -109,6 +112,14 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuScheme", [this](int index) {
     if (frmEditor* editor = activeEditor()) editor->applyScheme(index);
   });
+  commands_.add("mnuFind", withEditor([this](frmEditor& e) { transforms_->findNext(e); }));
+  commands_.add("mnuReplace", withEditor([this](frmEditor& e) { transforms_->replaceNext(e); }));
+  commands_.add("mnuSetReplace", withEditor([this](frmEditor& e) { transforms_->setSearchReplace(e); }));
+  commands_.add("mnuResequence", withEditor([this](frmEditor& e) { transforms_->renumber(e); }));
+  commands_.add("mnuOperate", withEditor([this](frmEditor& e) { transforms_->operate(e); }));
+  commands_.add("mnuAddSpaces", withEditor([](frmEditor& e) { e.AddSpaces(); }));
+  commands_.add("mnuRemove", withEditor([](frmEditor& e) { e.RemoveSpaces(); }));
+  commands_.add("mnuJunkFilter", withEditor([](frmEditor& e) { e.JunkFilter(); }));
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
   commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
   commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));
@@ -298,6 +309,10 @@ void MDIForm1::syncSettingChecks() {
       action->setChecked(on);
     }
   }
+}
+
+void MDIForm1::forgetTarget(const TransformTarget* target) {
+  if (transforms_) transforms_->forget(target);
 }
 
 const SchemeRecord* MDIForm1::currentSchemeRecord() {

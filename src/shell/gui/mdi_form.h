@@ -29,6 +29,8 @@ namespace lathwick::gui {
 
 class frmEditor;
 class MenuSet;
+class TransformDialogs;
+class TransformTarget;
 class StatusPanels;
 
 // The last non-empty selection made in any document.
@@ -92,6 +94,10 @@ class MDIForm1 : public QMainWindow {
   void setPassRunning(bool running) { passRunning_ = running; }
   bool passRunning() const { return passRunning_; }
 
+  // The search, renumber and operate dialogs; a closing window lets go of them.
+  TransformDialogs& transforms() { return *transforms_; }
+  void forgetTarget(const TransformTarget* target);
+
   // The windows that share the one undo file.
   FileUndoGroup& undoGroup() { return undoGroup_; }
 
@@ -140,6 +146,7 @@ class MDIForm1 : public QMainWindow {
   Dialogs* dialogs_;
   CommandDispatcher commands_;
   FileUndoGroup undoGroup_;  // before the windows, which leave it as they go
+  std::unique_ptr<TransformDialogs> transforms_;
   DocumentTable documents_;
   std::map<int, frmEditor*> windows_;  // by document index
   QMdiArea* mdi_;

@@ -1,0 +1,123 @@
+// The document window as the transformation dialogs and passes see it, and the Options menu's
+// plain-text passes (add and remove spaces, junk filter) run from the window.
+#include "document/document_table.h"
+#include "document/gui/frm_editor.h"
+#include "document/gui/rich_text_control.h"
+#include "format/pass_frame.h"
+#include "platform/bytes.h"
+#include "shell/gui/mdi_form.h"
+#include "shell/gui/status_panels.h"
+#include "transform/find_next.h"
+#include "transform/junk_filter.h"
+#include "transform/spaces.h"
+#include "transform/gui/qt_pass_monitor.h"
+
+namespace lathwick::gui {
+
+long frmEditor::textLength() const { return text_->textLength(); }
+long frmEditor::selectionStart() const { return text_->selStart(); }
+std::string frmEditor::selectedText() const { return text_->selText(); }
+long frmEditor::lineFromChar(long position) const { return text_->lineFromChar(static_cast<int>(position)); }
+long frmEditor::lineCount() const { return text_->lineCount(); }
+
+bool frmEditor::savePlainText(const std::string& path) {
+  try {
+    text_->saveFile(path, TextKind::Plain);
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+void frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
+  reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
+}
+
+void frmEditor::setStatusText(const std::string& text) { frame_.statusPanels().setText("Stat", text); }
+
+PassFrame frmEditor::passFrame() const {
+  const SchemeRecord* scheme = frame_.currentSchemeRecord();
+  return scheme ? makePassFrame(*scheme) : PassFrame{};
+}
+
+std::string frmEditor::commentStartText() const {
+  const SchemeRecord* scheme = frame_.currentSchemeRecord();
+  return scheme ? trimBlanks(scheme->style(0, kCommentStyle).marker) : std::string("(");
+}
+
+std::string frmEditor::inputWorkFile() const { return frame_.values().Temp2File; }
+std::string frmEditor::outputWorkFile() const { return frame_.values().Temp3File; }
+
+long frmEditor::find(std::string_view text, long start, long end, int flags) {
+  const long at = transform::findInText(text_->text(), text, start, end, flags);
+  if (at >= 0) {
+    text_->setSelection(static_cast<int>(at), static_cast<int>(text.size()));
+    ShowLineNum();
+  }
+  return at;
+}
+
+void frmEditor::replaceSelection(std::string_view text) {
+  const int start = text_->selStart();
+  text_->replaceSelection(std::string(text));
+  text_->setSelection(start, static_cast<int>(text.size()));
+}
+
+void frmEditor::showPassResult(const transform::PassResult& result) {
+  using transform::PassOutcome;
+  setStatusText(transform::kStatusReady);
+  switch (result.outcome) {
+    case PassOutcome::Completed:
+      if (result.reload) {
+        reloadDocument(outputWorkFile(), TextKind::Plain);
+        setFileUndoable(true);
+      }
+      break;
+    case PassOutcome::NoInput:
+      break;  // the input could not be written or read: nothing happens, nothing is said
+    case PassOutcome::Cancelled:
+    case PassOutcome::Refused:
+    case PassOutcome::Failed:
+      frame_.dialogs().message(result.message, result.title.empty() ? kAppTitle : result.title, Buttons::Ok,
+                               result.outcome == PassOutcome::Failed ? Icon::Exclamation : Icon::Information);
+      break;
+  }
+}
+
+namespace {
+// Runs a plain pass of the window's document from the input to the output work file.
+template <typename Pass>
+transform::PassResult runPass(frmEditor& window, MDIForm1& frame, Pass pass) {
+  if (!window.savePlainText(window.inputWorkFile())) {
+    transform::PassResult none;
+    none.outcome = transform::PassOutcome::NoInput;
+    return none;
+  }
+  BusyCursor busy;
+  frame.setPassRunning(true);
+  QtPassMonitor monitor(nullptr, [&window](const std::string& text) { window.setStatusText(text); }, &frame);
+  transform::PassResult result = pass(monitor);
+  frame.setPassRunning(false);
+  return result;
+}
+}  // namespace
+
+void frmEditor::AddSpaces() {
+  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+    return transform::runAddSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
+  }));
+}
+
+void frmEditor::RemoveSpaces() {
+  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+    return transform::runRemoveSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
+  }));
+}
+
+void frmEditor::JunkFilter() {
+  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+    return transform::runJunkFilter(inputWorkFile(), outputWorkFile(), monitor);
+  }));
+}
+
+}  // namespace lathwick::gui
