@@ -93,3 +93,24 @@ TEST_F(TransformsTest, SpacesAndTheJunkFilterThroughTheOptionsMenu) {
   EXPECT_TRUE(dialogs.messages.empty());
   EXPECT_TRUE(boxes.shown.empty());
 }
+
+TEST_F(TransformsTest, OperateScalesTheSelectedLineOnly) {
+  const std::string path = files.write("p.nc", "G00 X10 Y-2.5\r\nG01 X10 Y-2.5\r\nG01 X1\r\n");
+  start();
+  gui::frmEditor* e = openFile(path);
+  e->rtfTextBox().setSelection(e->rtfTextBox().lineIndex(1), 4);
+  trigger("mnuOperate");
+  QDialog* dialog = frame->findChild<QDialog*>("frmOperate");
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(child<QLabel>(dialog, "lblRange")->text().toStdString(), "Range= Line 2 to 2");
+  child<QComboBox>(dialog, "cboAddress")->setEditText("XY");
+  child<QComboBox>(dialog, "cboOperators")->setCurrentText("*");
+  child<QComboBox>(dialog, "cboValue")->setEditText("2");
+  child<QComboBox>(dialog, "cboFormat")->setEditText("##0.0###");
+  child<QPushButton>(dialog, "cmdOK")->click();
+  QApplication::processEvents();
+  // The result comes back as rich text (the changed values highlighted); the characters read:
+  EXPECT_EQ(e->rtfTextBox().text(), "G00 X10 Y-2.5\r\nG01 X20.0 Y-5.0\r\nG01 X1");
+  EXPECT_TRUE(e->FileUndoable());
+  EXPECT_TRUE(boxes.shown.empty());
+}

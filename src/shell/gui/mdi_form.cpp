@@ -16,6 +16,8 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
+#include "format/bundled_schemes.h"
+#include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "shell/app_folder.h"
@@ -322,7 +324,13 @@ const SchemeRecord* MDIForm1::currentSchemeRecord() {
     try {
       schemeRecord_ = loadScheme(values_.DataFilePath, currentScheme_);
     } catch (const std::exception&) {
-      // Reported where the scheme list is read; the window keeps its colours.
+      // The problem is reported where the scheme list is read. The passes still need a whole
+      // scheme to write rich text with: the first of the schemes the program ships with.
+      const std::vector<SchemeRecord> shipped = bundledSchemes();
+      if (!shipped.empty()) {
+        schemeRecord_ = shipped.front();
+        buildSchemeFragments(*schemeRecord_);
+      }
     }
   }
   return schemeRecord_ ? &*schemeRecord_ : nullptr;

@@ -104,8 +104,8 @@ class MDIForm1 : public QMainWindow {
   void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
   Dialogs& dialogs() { return *dialogs_; }
 
-  // The record of the current scheme, read from the data file when the number changes; nothing
-  // when it cannot be read.
+  // The record of the current scheme, read from the data file when the number changes; the first
+  // shipped scheme when the data file cannot give it.
   const SchemeRecord* currentSchemeRecord();
 
   // The scheme data file could not be read: said once, not for every window.
