@@ -1,0 +1,51 @@
+// Every program of the shared corpus through the window: opened, coloured by modes (after the
+// junk filter when its line ends need it), saved as rich text and opened again with the same
+// characters.
+#include <filesystem>
+
+#include "document/document_table.h"
+#include "document/line_ending_checks.h"
+#include "frame_fixture.h"
+#include "support/cli_runner.h"
+
+using namespace lathwick;
+using lathwick::test::FrameTest;
+
+TEST_F(FrameTest, CorpusProgramsColourSaveAsRichTextAndReopen) {
+  const std::string corpus = lathwick::test::corpusDir("gcode");
+  if (corpus.empty()) GTEST_SKIP() << "no corpus";
+  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
+  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
+  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  start();
+  int programs = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
+    if (entry.path().filename() == "SOURCES.md" || std::filesystem::file_size(entry.path()) == 0) continue;
+    ++programs;
+    const std::string name = entry.path().filename().string();
+    gui::frmEditor* e = openFile(entry.path().string());
+    ASSERT_NE(e, nullptr) << name;
+    dialogs.messages.clear();
+    trigger("mnuModal", 0);
+    if (!dialogs.messages.empty()) {
+      // Bare line feeds: the only refusal, and the junk filter is the cure.
+      ASSERT_EQ(dialogs.messages[0].text, kJunkFilterMessage) << name;
+      dialogs.messages.clear();
+      trigger("mnuJunkFilter");
+      trigger("mnuModal", 0);
+      ASSERT_TRUE(dialogs.messages.empty()) << name << ": " << dialogs.messages[0].text;
+    }
+    ASSERT_TRUE(e->FileUndoable()) << name;
+    const std::string shown = e->rtfTextBox().text();
+    const std::string rtf = files.file(name + ".rtf");
+    dialogs.files.push_back(rtf);
+    trigger("mnuSaveRTF");
+    ASSERT_EQ(lathwick::test::readBytes(rtf).substr(0, 5), "{\\rtf") << name;
+    trigger("mnuClose");
+    gui::frmEditor* again = openFile(rtf);
+    ASSERT_NE(again, nullptr) << name;
+    EXPECT_EQ(again->rtfTextBox().text(), shown) << name;
+    trigger("mnuClose");
+  }
+  EXPECT_GT(programs, 0);
+}
