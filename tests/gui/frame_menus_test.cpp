@@ -90,6 +90,7 @@ TEST_F(FrameTest, ALaterPartPlugsInByRegisteringItsCommand) {
   EXPECT_TRUE(frame->menuAction("mnuPrint")->isEnabled());  // the submenu has something in it now
   trigger("mnuPrintPlain");
   frame->toolButton("Print")->trigger();
+  EXPECT_EQ(frame->toolButton("Print")->toolTip().toStdString(), "Print active document");
   EXPECT_EQ(runs, 2);
 }
 

@@ -191,9 +191,10 @@ void MDIForm1::En_Dis_able() {
     if (key == "Undo") on = on && undo;
     QAction* action = toolActions_.at(key);
     action->setEnabled(on);
+    QString tip = QString::fromLatin1(button.tooltip);
     if (!commands_.has(button.command, button.commandIndex))
-      action->setToolTip(QString::fromLatin1(button.tooltip) + QStringLiteral(" (") +
-                         QString::fromLatin1(kNotYetAvailable) + QStringLiteral(")"));
+      tip += QStringLiteral(" (") + QString::fromLatin1(kNotYetAvailable) + QStringLiteral(")");
+    action->setToolTip(tip);
   }
 }
 
