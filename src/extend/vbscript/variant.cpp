@@ -1,0 +1,80 @@
+#include "extend/vbscript/variant.h"
+
+namespace lathwick::vbs {
+
+ObjRef::ObjRef(Object* p) : p_(p) {
+  if (p_) p_->addRef();
+}
+ObjRef::ObjRef(const ObjRef& o) : p_(o.p_) {
+  if (p_) p_->addRef();
+}
+ObjRef& ObjRef::operator=(const ObjRef& o) {
+  if (o.p_) o.p_->addRef();
+  Object* old = p_;
+  p_ = o.p_;
+  if (old) old->release();
+  return *this;
+}
+ObjRef& ObjRef::operator=(ObjRef&& o) noexcept {
+  if (this != &o) {
+    Object* old = p_;
+    p_ = o.p_;
+    o.p_ = nullptr;
+    if (old) old->release();
+  }
+  return *this;
+}
+ObjRef::~ObjRef() {
+  if (p_) p_->release();
+}
+
+Variant Variant::fitted(long long n) {
+  if (n >= -32768 && n <= 32767) return integer(static_cast<std::int32_t>(n));
+  if (n >= INT32_MIN && n <= INT32_MAX) return longv(static_cast<std::int32_t>(n));
+  return dbl(static_cast<double>(n));
+}
+
+Variant::Variant(const Variant& o) : type_(o.type_), s_(o.s_), o_(o.o_) {
+  d_ = o.d_;
+  if (o.a_) {
+    // An array lent out by reference is copied now: sharing it would let writes through the
+    // reference reach the copy.
+    a_ = o.a_->locks > 0 ? std::make_shared<ArrayData>(*o.a_) : o.a_;
+    if (a_ != o.a_) a_->locks = 0;
+  }
+}
+
+Variant& Variant::operator=(const Variant& o) {
+  if (this != &o) {
+    Variant tmp(o);
+    *this = std::move(tmp);
+  }
+  return *this;
+}
+
+ArrayData& Variant::arrayForWrite() {
+  if (a_.use_count() > 1) {
+    a_ = std::make_shared<ArrayData>(*a_);
+    a_->locks = 0;
+  }
+  return *a_;
+}
+
+std::shared_ptr<ArrayData> ArrayData::make(std::vector<std::int32_t> upperBounds, bool fixed) {
+  auto a = std::make_shared<ArrayData>();
+  std::size_t n = 1;
+  for (auto u : upperBounds) n *= static_cast<std::size_t>(u + 1);
+  a->upper = std::move(upperBounds);
+  a->items.resize(n);
+  a->fixed = fixed;
+  return a;
+}
+
+std::shared_ptr<ArrayData> ArrayData::ofValues(std::vector<Variant> values) {
+  auto a = std::make_shared<ArrayData>();
+  a->upper = {static_cast<std::int32_t>(values.size()) - 1};
+  a->items = std::move(values);
+  return a;
+}
+
+}  // namespace lathwick::vbs
