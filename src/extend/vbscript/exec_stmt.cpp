@@ -279,11 +279,13 @@ Flow ReDimStmt::exec(Frame& f) const {
       if (n < -1) raise(rt::kSubscript);
       bounds.push_back(n);
     }
-    Variant* p = item.var->writable(f);
-    if (!p && item.var->entry && item.var->entry->kind == GlobalEntry::Undefined) {
-      item.var->entry->kind = GlobalEntry::Variable;  // ReDim declares, even under Option Explicit
-      p = &item.var->entry->value;
+    GlobalEntry* e = item.var->entry;
+    if (item.var->kind == BindKind::Global && e->kind == GlobalEntry::Undefined) {
+      Object* o;
+      int m;
+      if (!f.rt.hostGlobal(e, o, m)) e->kind = GlobalEntry::Variable;  // ReDim declares, even under Option Explicit
     }
+    Variant* p = item.var->writable(f);
     if (!p) raise(rt::kIllegalAssign, item.var->name);
     if (p->isArray()) {
       const ArrayData& old = *p->arrValue();

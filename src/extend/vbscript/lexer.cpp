@@ -46,8 +46,8 @@ class Lexer {
       const char c = s_[pos_];
       const int col = static_cast<int>(pos_ - lineStart_);
       if (c == '\r' || c == '\n') {
-        newline();
         add(Tok::Newline, col);
+        newline();
       } else if (c == '\'') {
         skipToEol();
       } else if (c == ':') {
@@ -79,7 +79,8 @@ class Lexer {
   [[noreturn]] void fail(int number, int col) { throw CompileError{number, line_, col}; }
 
   void add(Tok k, int col, std::string_view text = {}, Kw kw = Kw::None, std::uint32_t value = 0) {
-    out_.tokens.push_back(Token{k, kw, line_, col, text, value});
+    out_.tokens.push_back(Token{k, kw, line_, col, text, value, spaced_});
+    spaced_ = false;
   }
   std::uint32_t addValue(Variant v) {
     out_.values.push_back(std::move(v));
@@ -91,7 +92,7 @@ class Lexer {
     return t.kind == Tok::Newline || t.kind == Tok::Colon || t.kw == Kw::Then || t.kw == Kw::Else;
   }
   void skipBlanks() {
-    while (pos_ < s_.size() && (s_[pos_] == ' ' || s_[pos_] == '\t')) ++pos_;
+    while (pos_ < s_.size() && (s_[pos_] == ' ' || s_[pos_] == '\t')) ++pos_, spaced_ = true;
   }
   void skipToEol() {
     while (pos_ < s_.size() && s_[pos_] != '\r' && s_[pos_] != '\n') ++pos_;
@@ -101,6 +102,7 @@ class Lexer {
     ++pos_;
     ++line_;
     lineStart_ = pos_;
+    spaced_ = true;
   }
 
   void identifier(int col) {
@@ -285,6 +287,7 @@ class Lexer {
   size_t pos_ = 0;
   size_t lineStart_ = 0;
   int line_ = 0;
+  bool spaced_ = true;  // blanks (or a line start) before the next token
   Lexed out_;
 };
 }  // namespace

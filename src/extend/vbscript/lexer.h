@@ -30,6 +30,7 @@ struct Token {
   int col = 0;   // 0-based
   std::string_view text;  // the source spelling (identifiers, keywords)
   std::uint32_t value = 0;  // index into Lexed::values for Number, String and Date
+  bool spaced = false;      // blanks or a line start come before it (`f .x` is not `f.x`)
 };
 
 // A compile error at a 0-based position.

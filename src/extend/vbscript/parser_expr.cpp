@@ -28,6 +28,9 @@ constexpr BinaryRule kBinaryRules[] = {
 };
 constexpr int kNotOperandPrec = 7;
 constexpr int kMaxDepth = 200;
+// Operators in one chain (`a + b + c ...`): each is one level of the tree that evaluation
+// walks recursively.
+constexpr int kMaxChain = 2000;
 
 const BinaryRule* ruleFor(const Token& t) {
   for (const auto& r : kBinaryRules)
@@ -59,9 +62,10 @@ ExprPtr Parser::binary(int minPrec) {
 }
 
 ExprPtr Parser::binaryRest(int minPrec, ExprPtr left) {
-  while (true) {
+  for (int chain = 0;; ++chain) {
     const BinaryRule* rule = ruleFor(cur());
     if (!rule || rule->prec < minPrec) return left;
+    if (chain >= kMaxChain) fail(ce::kOutOfMemory);
     const Token& opTok = take();
     ExprPtr right = binary(rule->prec + 1);
     auto b = at<BinaryExpr>(opTok);
@@ -175,7 +179,7 @@ ExprPtr Parser::postfix(ExprPtr e) {
       if (!is(Tok::RParen)) c->args = argumentList();
       expect(Tok::RParen, ce::kExpectedRParen);
       e = std::move(c);
-    } else if (is(Tok::Dot)) {
+    } else if (is(Tok::Dot) && !cur().spaced) {
       const Token& t = take();
       auto m = at<MemberExpr>(t);
       m->object = std::move(e);

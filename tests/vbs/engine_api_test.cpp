@@ -1,0 +1,241 @@
+// The host contract: named objects and their global members, code in pieces, procedure list,
+// running by name, reset, interrupt, UI callbacks and error records.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "extend/vbscript/engine.h"
+#include "platform/bytes.h"
+#include "platform/errors.h"
+
+using namespace lathwick::vbs;
+
+namespace {
+
+// A small stand-in for the editor's Application object.
+class FakeApp : public HostObject {
+ public:
+  std::string selText = "G01 X1";
+  std::vector<std::string> calls;
+  int findMember(std::string_view name) const override {
+    static const char* names[] = {"SelText", "Colorize", "LineText", "Fail", "Swap"};
+    for (int i = 0; i < 5; ++i)
+      if (lathwick::equalsIgnoreCase(name, names[i])) return i;
+    return -1;
+  }
+  std::string typeName() const override { return "Application"; }
+  Variant hostInvoke(int member, InvokeKind kind, std::vector<Variant>& args) override {
+    switch (member) {
+      case 0:
+        if (kind == InvokeKind::Let) {
+          selText = args.back().strValue();
+          return {};
+        }
+        return Variant::str(selText);
+      case 1: calls.push_back("Colorize"); return {};
+      case 2: return Variant::str("line " + std::to_string(args.at(0).intValue()));
+      case 3: throw lathwick::AppError(53, "File not found");
+      case 4: args.at(0) = Variant::str("swapped"); return {};
+    }
+    return {};
+  }
+};
+
+struct Fixture : ::testing::Test {
+  Engine engine;
+  ObjRef appRef = makeObject<FakeApp>();
+  FakeApp& app = static_cast<FakeApp&>(*appRef.get());
+  std::vector<std::string> shown;
+  void SetUp() override {
+    engine.addObject("Application", appRef, true);
+    UiCallbacks ui;
+    ui.msgBox = [this](const std::string& p, int, const std::string&) {
+      shown.push_back(p);
+      return 6;
+    };
+    ui.inputBox = [](const std::string&, const std::string&, const std::string& def) {
+      return std::optional<std::string>(def + "!");
+    };
+    engine.setUi(ui);
+  }
+  std::string eval(const std::string& expr) {
+    EXPECT_TRUE(engine.addCode("Function Probe__()\nProbe__ = " + expr + "\nEnd Function"));
+    auto r = engine.run("Probe__");
+    return r && r->isString() ? r->strValue() : (r ? std::to_string(r->intValue()) : "<error>");
+  }
+};
+
+TEST_F(Fixture, HostMembersAreGlobalNamesAndObjectMembers) {
+  ASSERT_TRUE(engine.addCode("SelText = UCase(Application.SelText) & \"!\"\nColorize\nApplication.Colorize"));
+  EXPECT_EQ(app.selText, "G01 X1!");
+  EXPECT_EQ(app.calls.size(), 2u);
+  EXPECT_EQ(eval("LineText(3)"), "line 3");
+  // A script name shadows a host global; a host global never shadows a built-in.
+  ASSERT_TRUE(engine.addCode("Function LineText(n)\nLineText = \"mine\"\nEnd Function"));
+  EXPECT_EQ(eval("LineText(3) & Len(\"ab\")"), "mine2");
+}
+
+TEST_F(Fixture, HostErrorsBecomeErrAndByRefOutputIsWrittenBack) {
+  ASSERT_TRUE(engine.addCode("On Error Resume Next\nFail\nn = Err.Number : d = Err.Description : s = Err.Source\n"
+                             "v = \"x\" : Swap v"));
+  EXPECT_EQ(eval("n & \"|\" & d & \"|\" & s & \"|\" & v"), "53|File not found|Application|swapped");
+}
+
+TEST_F(Fixture, CodePiecesShareOneNamespaceAndProceduresAreListedInOrder) {
+  ASSERT_TRUE(engine.addCode("Dim total\ntotal = 1\nSub V_Renumber()\nEnd Sub", "main.vbs"));
+  ASSERT_TRUE(engine.addCode("total = total + 1\nFunction Add(a, b)\nAdd = a + b + total\nEnd Function\n"
+                             "Sub LoadDoc(name)\nEnd Sub", "extra.vbs"));
+  ASSERT_TRUE(engine.addCode("Sub V_Renumber(x)\nEnd Sub", "late.vbs"));
+  const auto procs = engine.procedures();
+  ASSERT_EQ(procs.size(), 3u);
+  EXPECT_EQ(procs[0].name, "V_Renumber");
+  EXPECT_EQ(procs[0].paramCount, 1);  // the later definition replaced the first in place
+  EXPECT_EQ(procs[0].sourceName, "late.vbs");
+  EXPECT_EQ(procs[1].name, "Add");
+  EXPECT_TRUE(procs[1].isFunction);
+  EXPECT_EQ(procs[1].line, 2);
+  EXPECT_EQ(procs[2].name, "LoadDoc");
+  std::vector<Variant> args{Variant::integer(2), Variant::integer(3)};
+  auto r = engine.run("add", args);
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->intValue(), 7);
+}
+
+TEST_F(Fixture, RunReportsUnknownNamesAndWrongArity) {
+  EXPECT_FALSE(engine.run("Nope"));
+  EXPECT_EQ(engine.lastError()->number, 35);
+  EXPECT_EQ(engine.lastError()->message(), "Sub or Function not defined: 'Nope'");
+  ASSERT_TRUE(engine.addCode("Sub One(a)\nEnd Sub"));
+  EXPECT_FALSE(engine.run("One"));
+  EXPECT_EQ(engine.lastError()->number, 450);
+}
+
+TEST_F(Fixture, RunPassesArgumentsByReference) {
+  ASSERT_TRUE(engine.addCode("Sub Bump(x)\nx = x + 1\nEnd Sub"));
+  std::vector<Variant> args{Variant::integer(41)};
+  ASSERT_TRUE(engine.run("Bump", args));
+  EXPECT_EQ(args[0].intValue(), 42);
+}
+
+TEST_F(Fixture, CompileErrorDefinesNothingAndRecordsThePosition) {
+  std::vector<ErrorRecord> seen;
+  engine.setErrorHandler([&](const ErrorRecord& e) { seen.push_back(e); });
+  EXPECT_FALSE(engine.addCode("Sub Good()\nEnd Sub\nx = (1 +\n", "bad.vbs"));
+  ASSERT_EQ(seen.size(), 1u);
+  EXPECT_EQ(seen[0].source, "VBScript compilation error");
+  EXPECT_EQ(seen[0].sourceName, "bad.vbs");
+  EXPECT_EQ(seen[0].line, 3);
+  EXPECT_EQ(seen[0].column, 9);
+  EXPECT_EQ(seen[0].lineText, "x = (1 +");
+  EXPECT_TRUE(engine.procedures().empty());
+}
+
+TEST_F(Fixture, RuntimeErrorKeepsGlobalsAndTheEngineStaysUsable) {
+  EXPECT_FALSE(engine.addCode("g = 5\nSub S()\n  y = 1\n  y = y / 0\nEnd Sub\nS", "rt.vbs"));
+  const ErrorRecord& e = *engine.lastError();
+  EXPECT_EQ(e.number, 11);
+  EXPECT_EQ(e.source, "VBScript runtime error");
+  EXPECT_EQ(e.line, 4);
+  EXPECT_EQ(e.column, 3);
+  EXPECT_EQ(e.lineText, "  y = y / 0");
+  EXPECT_EQ(eval("g"), "5");
+}
+
+TEST_F(Fixture, ResetDropsCodeStateAndObjects) {
+  ASSERT_TRUE(engine.addCode("Const K = 1\nDim v\nv = 3\nSub S()\nEnd Sub"));
+  engine.reset();
+  EXPECT_TRUE(engine.procedures().empty());
+  ASSERT_TRUE(engine.addCode("Const K = 2\nFunction Probe()\nProbe = IsEmpty(v) & K\nEnd Function"));
+  auto r = engine.run("Probe");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "True2");
+  // Application is gone until the host registers it again.
+  EXPECT_FALSE(engine.addCode("Option Explicit\nx = Application.SelText"));
+}
+
+TEST_F(Fixture, MsgBoxAndInputBoxGoToTheHost) {
+  ASSERT_TRUE(engine.addCode("r = MsgBox(\"Sure?\", vbYesNo)\nMsgBox \"done \" & r\ns = InputBox(\"Name\", \"T\", \"abc\")"));
+  EXPECT_EQ(shown, (std::vector<std::string>{"Sure?", "done 6"}));
+  EXPECT_EQ(eval("s"), "abc!");
+}
+
+TEST_F(Fixture, InterruptStopsARunawayLoopEvenUnderResumeNext) {
+  engine.setInterruptError(kObjectError + 1, "Macro cancelled");
+  std::thread stopper([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    engine.interrupt();
+  });
+  const bool ok = engine.addCode("On Error Resume Next\nDo\nn = n + 1\nLoop");
+  stopper.join();
+  EXPECT_FALSE(ok);
+  EXPECT_EQ(engine.lastError()->number, kObjectError + 1);
+  EXPECT_EQ(engine.lastError()->description, "Macro cancelled");
+  EXPECT_TRUE(engine.addCode("x = 1"));  // usable again
+}
+
+TEST_F(Fixture, InterruptFromACallbackStopsAtTheNextCall) {
+  UiCallbacks ui;
+  ui.msgBox = [this](const std::string&, int, const std::string&) {
+    engine.interrupt();
+    return 1;
+  };
+  engine.setUi(ui);
+  EXPECT_FALSE(engine.addCode("MsgBox \"stop me\"\nSet marker = Nothing\nmarker = 1"));
+  EXPECT_EQ(engine.lastError()->line, 1);
+}
+
+// ---- malformed input never crashes or hangs ---------------------------------------------------
+
+std::optional<ErrorRecord> compileOnly(const std::string& text) {
+  Engine e;
+  if (e.addCode(text)) return std::nullopt;
+  return e.lastError();
+}
+
+TEST(MalformedScripts, UnterminatedStringAndGarbageAreCompileErrors) {
+  auto e = compileOnly("x = \"abc\ny = 1");
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->number, 1033);
+  std::string garbage;
+  for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
+  e = compileOnly(garbage);
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->source, "VBScript compilation error");
+  e = compileOnly(std::string("x = 1\0y", 7));
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->number, 1032);
+}
+
+TEST(MalformedScripts, DeepNestingIsACompileErrorNotACrash) {
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, '(') + "1" + std::string(100000, ')')));
+  std::string ifs;
+  for (int i = 0; i < 50000; ++i) ifs += "If True Then\n";
+  EXPECT_TRUE(compileOnly(ifs));
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, '-') + "1"));
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, 'F') + "(((("));
+  // Moderate nesting is fine.
+  EXPECT_FALSE(compileOnly("x = " + std::string(50, '(') + "1" + std::string(50, ')')));
+}
+
+TEST(MalformedScripts, MegabyteLineCompilesOrFailsCleanly) {
+  std::string line = "x = 0";
+  while (line.size() < 1024 * 1024) line += " : x = x + 1";
+  Engine e;
+  EXPECT_TRUE(e.addCode(line));
+  // One expression of a quarter million operators is refused, not evaluated recursively.
+  std::string chain = "x = 0";
+  while (chain.size() < 1024 * 1024) chain += " + 1";
+  auto tooLong = compileOnly(chain);
+  ASSERT_TRUE(tooLong);
+  EXPECT_EQ(tooLong->number, 1001);
+  std::string junk(1024 * 1024, 'a');
+  auto err = compileOnly(junk);
+  ASSERT_TRUE(err);
+  EXPECT_EQ(err->number, 1030);  // identifier too long
+  std::string unterminated = "x = \"" + std::string(1024 * 1024, 'z');
+  err = compileOnly(unterminated);
+  ASSERT_TRUE(err);
+  EXPECT_EQ(err->number, 1033);
+}
+
+}  // namespace
