@@ -42,7 +42,7 @@ Variant fnMajor(Runtime&, Args&) { return Variant::longv(5); }
 Variant fnMinor(Runtime&, Args&) { return Variant::longv(8); }
 Variant fnBuild(Runtime&, Args&) { return Variant::longv(1); }
 Variant fnErr(Runtime& rt, Args&) { return Variant::object(rt.errObject); }
-Variant fnCreateObject(Runtime& rt, Args& a) {
+Variant fnCreateObject(Runtime&, Args& a) {
   raise(rt::kCantCreate, given(a, 0) && a[0].isString() ? a[0].strValue() : std::string());
 }
 Variant fnGetLocale(Runtime&, Args&) { return Variant::longv(1033); }

@@ -393,12 +393,20 @@ Variant UnaryExpr::eval(Frame& f) const {
 Variant BinaryExpr::eval(Frame& f) const {
   const Variant a = left->eval(f);
   const Variant b = right->eval(f);
-  // Small integers take the common path without the general rules.
-  if (a.type() == VT::Integer && b.type() == VT::Integer) {
-    const int x = a.intValue(), y = b.intValue();
+  // Integer and Long operands take the common path without the general rules.
+  const VT ta = a.type(), tb = b.type();
+  if ((ta == VT::Integer || ta == VT::Long) && (tb == VT::Integer || tb == VT::Long)) {
+    const long long x = a.intValue(), y = b.intValue();
+    const bool small = ta == VT::Integer && tb == VT::Integer;
+    auto result = [small](long long r) {
+      if (small && r >= -32768 && r <= 32767) return Variant::integer(static_cast<std::int32_t>(r));
+      if (r >= INT32_MIN && r <= INT32_MAX) return Variant::longv(static_cast<std::int32_t>(r));
+      return Variant::dbl(static_cast<double>(r));
+    };
     switch (op) {
-      case BinOp::Add: return Variant::fitted(static_cast<long long>(x) + y);
-      case BinOp::Sub: return Variant::fitted(static_cast<long long>(x) - y);
+      case BinOp::Add: return result(x + y);
+      case BinOp::Sub: return result(x - y);
+      case BinOp::Mul: return result(x * y);
       case BinOp::Eq: return Variant::boolean(x == y);
       case BinOp::Ne: return Variant::boolean(x != y);
       case BinOp::Lt: return Variant::boolean(x < y);
@@ -406,7 +414,7 @@ Variant BinaryExpr::eval(Frame& f) const {
       case BinOp::Le: return Variant::boolean(x <= y);
       case BinOp::Ge: return Variant::boolean(x >= y);
       case BinOp::Mod:
-        if (y != 0) return Variant::integer(x % y);
+        if (y != 0) return small ? Variant::integer(static_cast<std::int32_t>(x % y)) : Variant::longv(static_cast<std::int32_t>(x % y));
         break;
       default: break;
     }

@@ -31,16 +31,21 @@ std::string SourceUnit::lineText(int line0) const {
 
 Runtime::Runtime() { errObject = makeErrObject(); }
 
-Runtime::~Runtime() { clearAll(); }
+Runtime::~Runtime() {
+  clearAll();
+  *alive = false;
+}
 
 void Runtime::clearAll() {
   shuttingDown = true;
   // Values first (they may hold objects whose classes live in the units), then the code.
   for (auto& e : entries_) e.value = Variant();
   byName_.clear();
-  entries_.clear();
+  retiredEntries_.push_back(std::move(entries_));
+  entries_ = {};
   procedureOrder.clear();
   globalMemberObjects.clear();
+  for (auto& u : units) retiredUnits_.push_back(std::move(u));
   units.clear();
   ++hostGeneration;
   err = ErrState{};
@@ -165,7 +170,7 @@ void Runtime::locate(ScriptError& e, const Frame& f) {
 
 // ---- script class instances ------------------------------------------------------------------
 
-ScriptInstance::ScriptInstance(Runtime& rt, ClassPtr cls) : rt_(&rt), cls_(std::move(cls)) {
+ScriptInstance::ScriptInstance(Runtime& rt, ClassPtr cls) : rt_(&rt), alive_(rt.alive), cls_(std::move(cls)) {
   fields.resize(static_cast<size_t>(cls_->numFields));
   for (const auto& m : cls_->members) {
     if (m.field < 0) continue;
@@ -177,7 +182,7 @@ ScriptInstance::ScriptInstance(Runtime& rt, ClassPtr cls) : rt_(&rt), cls_(std::
 }
 
 void ScriptInstance::lastReleased() {
-  if (cls_->terminate && !rt_->shuttingDown) {
+  if (cls_->terminate && *alive_ && !rt_->shuttingDown) {
     refs_ = 1;
     try {
       ObjRef self(this);

@@ -125,6 +125,7 @@ class ScriptInstance : public Object {
 
  private:
   Runtime* rt_;
+  std::shared_ptr<bool> alive_;
   ClassPtr cls_;
 };
 
@@ -174,9 +175,16 @@ class Runtime {
   int hostGeneration = 0;
   bool shuttingDown = false;
   int maxDepth = 1000;
+  // False once the runtime is destroyed: objects a host still holds then skip their
+  // terminate handlers.
+  std::shared_ptr<bool> alive = std::make_shared<bool>(true);
 
  private:
   std::deque<GlobalEntry> entries_;
+  // Code and name tables of earlier resets, kept because objects a host still holds may
+  // run methods compiled against them.
+  std::vector<std::deque<GlobalEntry>> retiredEntries_;
+  std::vector<std::unique_ptr<SourceUnit>> retiredUnits_;
   std::unordered_map<std::string, GlobalEntry*> byName_;
   int depth_ = 0;
   const char* stackBase_ = nullptr;

@@ -34,21 +34,40 @@ Variant Variant::fitted(long long n) {
   return dbl(static_cast<double>(n));
 }
 
-Variant::Variant(const Variant& o) : type_(o.type_), s_(o.s_), o_(o.o_) {
+Variant::Variant(const Variant& o) : type_(o.type_) {
   d_ = o.d_;
-  if (o.a_) {
-    // An array lent out by reference is copied now: sharing it would let writes through the
-    // reference reach the copy.
-    a_ = o.a_->locks > 0 ? std::make_shared<ArrayData>(*o.a_) : o.a_;
-    if (a_ != o.a_) a_->locks = 0;
+  switch (type_) {
+    case VT::String: s_ = o.s_; break;
+    case VT::Object: o_ = o.o_; break;
+    case VT::Array:
+      // An array lent out by reference is copied now: sharing it would let writes through
+      // the reference reach the copy.
+      if (o.a_ && o.a_->locks > 0) {
+        a_ = std::make_shared<ArrayData>(*o.a_);
+        a_->locks = 0;
+      } else {
+        a_ = o.a_;
+      }
+      break;
+    default: break;
   }
 }
 
 Variant& Variant::operator=(const Variant& o) {
-  if (this != &o) {
-    Variant tmp(o);
-    *this = std::move(tmp);
+  if (this == &o) return *this;
+  if (o.type_ == VT::String && type_ == VT::String) {
+    s_ = o.s_;  // reuses this string's buffer
+    return *this;
   }
+  if (o.type_ != VT::Object && o.type_ != VT::Array && o.type_ != VT::String && type_ != VT::Object &&
+      type_ != VT::Array) {
+    type_ = o.type_;
+    d_ = o.d_;
+    if (!s_.empty()) s_.clear();
+    return *this;
+  }
+  Variant tmp(o);
+  *this = std::move(tmp);
   return *this;
 }
 
