@@ -55,10 +55,10 @@ Flow AssignStmt::exec(Frame& f) const {
 
 Flow AppendStmt::exec(Frame& f) const {
   const auto* cat = static_cast<const BinaryExpr*>(value.get());
-  Variant* p = target->readable(f);
+  Variant* p = target->writable(f);
   if (p && p->isString()) {
     Variant tail = cat->right->eval(f);
-    p = target->readable(f);
+    p = target->writable(f);
     if (p && p->isString()) {
       if (tail.isObject()) tail = valueOf(f.rt, tail);
       if (tail.isArray()) raise(rt::kTypeMismatch);

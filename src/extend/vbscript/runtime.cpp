@@ -4,6 +4,7 @@
 
 #include "extend/vbscript/convert.h"
 #include "extend/vbscript/err_object.h"
+#include "extend/vbscript/regexp.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 
@@ -228,10 +229,14 @@ Variant ScriptInstance::invoke(Runtime& rt, int member, InvokeKind kind, const A
   }
   switch (kind) {
     case InvokeKind::Get:
-    case InvokeKind::Call:
-      if (m.method) return rt.callProcedure(*m.method, args, self);
-      if (m.get) return rt.callProcedure(*m.get, args, self);
-      raise(rt::kNoMember, m.name);
+    case InvokeKind::Call: {
+      const ProcPtr& p = m.method ? m.method : m.get;
+      if (!p) raise(rt::kNoMember, m.name);
+      // `o.Items(1)` on a member without parameters indexes what it returns.
+      if (p->params.empty() && !args.empty())
+        return callValue(rt, rt.callProcedure(*p, {}, self), args, kind == InvokeKind::Call, m.name);
+      return rt.callProcedure(*p, args, self);
+    }
     case InvokeKind::Let:
       if (m.let) return rt.callProcedure(*m.let, args, self);
       if (m.method || m.get) raise(rt::kIllegalAssign, m.name);
@@ -264,5 +269,8 @@ Variant HostObject::invoke(Runtime&, int member, InvokeKind kind, const ArgRefs&
 }  // namespace lathwick::vbs
 
 namespace lathwick::vbs {
-Variant Runtime::newBuiltinObject(std::string_view) { return {}; }
+Variant Runtime::newBuiltinObject(std::string_view name) {
+  if (equalsIgnoreCase(name, "RegExp")) return Variant::object(makeRegExp());
+  return {};
+}
 }  // namespace lathwick::vbs

@@ -34,3 +34,10 @@ Set d = c
 d.Add 1
 WriteLine c.Count          ' expect: 11
 WriteLine c Is d           ' expect: True
+Class Bag
+  Public Property Get Items()
+    Items = Array("p", "q")
+  End Property
+End Class
+Set sack = New Bag
+WriteLine sack.Items(1)     ' expect: q
