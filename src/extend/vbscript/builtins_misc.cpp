@@ -46,6 +46,12 @@ Variant fnCreateObject(Runtime&, Args& a) {
   raise(rt::kCantCreate, given(a, 0) && a[0].isString() ? a[0].strValue() : std::string());
 }
 Variant fnGetLocale(Runtime&, Args&) { return Variant::longv(1033); }
+// Execute runs in the global scope (like ExecuteGlobal): a procedure's locals are not visible.
+Variant fnExecuteGlobal(Runtime& rt, Args& a) {
+  rt.executeGlobal(strArg(rt, a[0]));
+  return {};
+}
+Variant fnEval(Runtime& rt, Args& a) { return rt.evaluate(strArg(rt, a[0])); }
 
 // FormatNumber(x[, digits[, leadingZero[, negParens[, group]]]]) with "." and ",".
 std::string formatFixed(Runtime& rt, Args& a, double scale, const char* suffix) {
@@ -95,6 +101,9 @@ const Builtin kRows[] = {
     {"CreateObject", 1, 2, fnCreateObject},
     {"GetObject", 0, 2, fnCreateObject},
     {"GetLocale", 0, 0, fnGetLocale},
+    {"Execute", 1, 1, fnExecuteGlobal},
+    {"ExecuteGlobal", 1, 1, fnExecuteGlobal},
+    {"Eval", 1, 1, fnEval},
     {"FormatNumber", 1, 5, fnFormatNumber},
     {"FormatPercent", 1, 5, fnFormatPercent},
 };

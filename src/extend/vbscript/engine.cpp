@@ -9,15 +9,6 @@
 namespace lathwick::vbs {
 
 namespace {
-std::vector<size_t> lineStartsOf(const std::string& text) {
-  std::vector<size_t> starts{0};
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-    if (text[i] == '\r' || text[i] == '\n') starts.push_back(i + 1);
-  }
-  return starts;
-}
-
 // Runs `body`, turning every way it can fail into a ScriptError.
 template <class F>
 void guarded(F&& body) {
@@ -106,40 +97,7 @@ bool Engine::addCode(std::string_view text, const std::string& sourceName) {
   }
   SourceUnit& u = *unit;
   rt_->units.push_back(std::move(unit));
-  // Declarations exist before any statement of the unit runs.
-  for (auto& [e, v] : u.constants) {
-    e->kind = GlobalEntry::Const;
-    e->value = v;
-  }
-  for (auto& [e, bounds] : u.variables) {
-    if (e->kind != GlobalEntry::Variable) e->value = Variant();
-    e->kind = GlobalEntry::Variable;
-    if (!bounds.empty()) e->value = Variant::array(ArrayData::make(bounds, true));
-  }
-  for (GlobalEntry* e : u.dynamicArrays) {
-    e->kind = GlobalEntry::Variable;
-    e->value = Variant::array(std::make_shared<ArrayData>());
-  }
-  for (const ClassPtr& c : u.classes) {
-    GlobalEntry* e = rt_->entry(c->name);
-    e->kind = GlobalEntry::Class;
-    e->cls = c;
-  }
-  for (const ProcPtr& p : u.procedures) {
-    GlobalEntry* e = rt_->entry(p->name);
-    e->kind = GlobalEntry::Procedure;
-    e->proc = p;
-    e->value = Variant();
-    bool replaced = false;
-    for (auto& q : rt_->procedureOrder) {
-      if (rt_->findEntry(q->name) == e) {
-        q = p;
-        replaced = true;
-        break;
-      }
-    }
-    if (!replaced) rt_->procedureOrder.push_back(p);
-  }
+  rt_->declareUnit(u);
   Frame top(*rt_);
   top.unit = &u;
   try {

@@ -17,6 +17,8 @@ namespace lathwick::vbs {
 // Parses `unit.text` into `unit`; throws CompileError. Global entries for the unit's
 // declarations are created but not filled: that happens when the unit is started.
 void compileUnit(Runtime& rt, SourceUnit& unit);
+// Parses `unit.text` as one expression over global names (for Eval).
+ExprPtr compileExpression(Runtime& rt, SourceUnit& unit);
 
 struct UnitDecl;  // declarations with positions, for redefinition checks
 
@@ -24,6 +26,7 @@ class Parser {
  public:
   Parser(Runtime& rt, SourceUnit& unit, const Lexed& lexed) : rt_(rt), unit_(unit), lx_(lexed) {}
   void parseUnit();
+  ExprPtr parseExpressionOnly();
 
  private:
   struct Local {

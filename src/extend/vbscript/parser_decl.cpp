@@ -15,6 +15,18 @@ void compileUnit(Runtime& rt, SourceUnit& unit) {
   Parser(rt, unit, lexed).parseUnit();
 }
 
+ExprPtr compileExpression(Runtime& rt, SourceUnit& unit) {
+  const Lexed lexed = lex(unit.text);
+  return Parser(rt, unit, lexed).parseExpressionOnly();
+}
+
+ExprPtr Parser::parseExpressionOnly() {
+  ExprPtr e = expression();
+  skipSeparators();
+  if (!is(Tok::End)) fail(ce::kExpectedEos);
+  return e;
+}
+
 void Parser::parseUnit() {
   skipSeparators();
   if (isKw(Kw::Option)) {

@@ -143,6 +143,12 @@ class Runtime {
   Variant callProcedure(const Procedure& p, const ArgRefs& args, ObjRef me);
   Variant callBuiltin(const Builtin& b, std::vector<Variant>& args);
   Variant instantiate(const ClassPtr& cls);
+  // Creates the globals, procedures and classes a compiled unit declares (before it runs).
+  void declareUnit(SourceUnit& u);
+  // ExecuteGlobal / Execute: compiles and runs text in the global scope. Eval: the value of an
+  // expression over the global names. Compilation errors are raised with their numbers.
+  void executeGlobal(const std::string& text);
+  Variant evaluate(const std::string& text);
   // `New RegExp` and the other objects the language itself provides; Empty for other names.
   Variant newBuiltinObject(std::string_view name);
   // A host global member with this name (step 6 of name lookup), cached in the entry.
@@ -191,5 +197,6 @@ class Runtime {
 };
 
 std::string lowerName(std::string_view s);
+std::vector<size_t> lineStartsOf(const std::string& text);
 
 }  // namespace lathwick::vbs
