@@ -1,5 +1,6 @@
 #include "extend/vbscript/console_host.h"
 
+#include "extend/vbscript/convert.h"
 #include "platform/bytes.h"
 
 namespace lathwick::vbs {
@@ -57,15 +58,12 @@ class ConsoleObject : public HostObject {
     return line;
   }
 
+  // Text of a printed value: as CStr gives it, and "Null" for Null.
   static std::string printable(const Variant& v) {
     if (v.isNull()) return "Null";
     if (v.isObject() || v.isArray()) throw ScriptError(13, errorText(13), kRuntimeSource);
-    if (v.isString()) return v.strValue();
-    // Numbers, Booleans and dates as CStr gives them.
-    std::vector<Variant> none;
-    return printableText(v);
+    return plainText(v);
   }
-  static std::string printableText(const Variant& v);
 
  private:
   enum { kArguments, kWrite, kWriteLine, kReadLine, kCount };
@@ -73,14 +71,6 @@ class ConsoleObject : public HostObject {
   std::vector<std::string> args_;
   ConsoleStreams s_;
 };
-}  // namespace
-}  // namespace lathwick::vbs
-
-#include "extend/vbscript/convert.h"
-
-namespace lathwick::vbs {
-namespace {
-std::string ConsoleObject::printableText(const Variant& v) { return plainText(v); }
 
 // The button a console "presses": the first of the set (OK, Abort, Yes, Retry).
 int firstButton(int buttons) {

@@ -69,6 +69,7 @@ void Engine::reportRuntime(const ScriptError& e) {
 }
 
 bool Engine::addCode(std::string_view text, const std::string& sourceName) {
+  rt_->interruptFlag = false;
   auto unit = std::make_unique<SourceUnit>();
   unit->sourceName = sourceName;
   unit->text = std::string(text);
@@ -131,6 +132,7 @@ std::optional<Variant> Engine::run(std::string_view name, std::vector<Variant>& 
     reportRuntime(err);
     return std::nullopt;
   }
+  rt_->interruptFlag = false;
   ArgRefs refs;
   for (auto& a : args) refs.push_back(&a);
   try {

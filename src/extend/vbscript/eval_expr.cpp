@@ -119,7 +119,8 @@ Variant* NameExpr::readable(Frame& f) const {
       return nullptr;
     case BindKind::Implicit: {
       if (entry->kind == GlobalEntry::Variable || entry->kind == GlobalEntry::Const) return &entry->value;
-      if (entry->kind != GlobalEntry::Undefined || entry->builtin) return nullptr;
+      // A name the procedure assigns is its own variable, even when a built-in has the name.
+      if (entry->kind != GlobalEntry::Undefined) return nullptr;
       Object* o;
       int m;
       if (f.rt.hostGlobal(entry, o, m)) return nullptr;

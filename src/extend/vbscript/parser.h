@@ -20,8 +20,6 @@ void compileUnit(Runtime& rt, SourceUnit& unit);
 // Parses `unit.text` as one expression over global names (for Eval).
 ExprPtr compileExpression(Runtime& rt, SourceUnit& unit);
 
-struct UnitDecl;  // declarations with positions, for redefinition checks
-
 class Parser {
  public:
   Parser(Runtime& rt, SourceUnit& unit, const Lexed& lexed) : rt_(rt), unit_(unit), lx_(lexed) {}

@@ -136,9 +136,11 @@ StmtPtr Parser::statement() {
     fail(ce::kExpectedStmt);
   }
   if (t.kind == Tok::Ident) {
-    if (equalsIgnoreCase(t.text, "Property") && (scope_ == nullptr)) {
-      fail(class_ ? ce::kSyntax : 1048);
-    }
+    // `Property Get|Let|Set` outside a class; otherwise Property is an ordinary name.
+    if (equalsIgnoreCase(t.text, "Property") && !scope_ &&
+        ((peek().kind == Tok::Ident && (equalsIgnoreCase(peek().text, "Get") || equalsIgnoreCase(peek().text, "Let"))) ||
+         (peek().kind == Tok::Keyword && peek().kw == Kw::Set)))
+      fail(1048);
     if (equalsIgnoreCase(t.text, "Let") && peek().kind == Tok::Ident) take();
     return assignmentOrCall();
   }

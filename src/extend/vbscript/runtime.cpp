@@ -91,7 +91,8 @@ bool Runtime::hostGlobal(GlobalEntry* e, Object*& obj, int& member) {
 }
 
 void Runtime::throwInterrupt() {
-  interruptFlag = false;
+  // The flag stays set until the host starts the next run, so that code running while the
+  // stack unwinds (terminate handlers) stops too.
   ScriptError e(interruptNumber, interruptText, kRuntimeSource);
   e.fatal = true;
   throw e;
