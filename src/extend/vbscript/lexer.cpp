@@ -40,6 +40,8 @@ class Lexer {
   explicit Lexer(std::string_view text) : s_(text) {}
 
   Lexed run() {
+    // Files saved as UTF-8 often start with a byte-order mark.
+    if (s_.substr(0, 3) == "\xEF\xBB\xBF") pos_ = lineStart_ = 3;
     while (true) {
       skipBlanks();
       if (pos_ >= s_.size()) break;
