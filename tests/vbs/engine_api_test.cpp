@@ -239,3 +239,28 @@ TEST(MalformedScripts, MegabyteLineCompilesOrFailsCleanly) {
 }
 
 }  // namespace
+
+namespace {
+TEST(ResourceLimits, HugeArraysAndStringsAreErrorsNotCrashes) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("On Error Resume Next\n"
+                        "ReDim a(65535, 65535, 65535, 65535)\nn1 = Err.Number : Err.Clear\n"
+                        "ReDim b(2000000000)\nn2 = Err.Number : Err.Clear\n"
+                        "s = Space(2000000000)\nn3 = Err.Number : Err.Clear\n"
+                        "Function R()\nR = n1 & \" \" & n2 & \" \" & n3\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "7 7 14");
+}
+
+TEST(ResourceLimits, ReleasingALongChainOfObjectsDoesNotRecurse) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Class Node\nPublic NextNode\nEnd Class\n"
+                        "Set head = Nothing\n"
+                        "For i = 1 To 300000\nSet n = New Node\nSet n.NextNode = head\nSet head = n\nNext\n"
+                        "Set n = Nothing\nSet head = Nothing"));
+  ASSERT_TRUE(e.addCode("Set head2 = New Node\nSet cur = head2\n"
+                        "For i = 1 To 300000\nSet cur.NextNode = New Node\nSet cur = cur.NextNode\nNext\nSet cur = Nothing"));
+  e.reset();  // releases the second chain from the engine's side
+}
+}  // namespace

@@ -105,15 +105,20 @@ Variant fnTrim(Runtime& rt, Args& a) {
   return Variant::str(trimBlanks(toStr(rt, a[0])));
 }
 
+// Longest string Space and String make.
+constexpr std::int32_t kMaxMadeString = 1 << 28;
+
 Variant fnSpace(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
   if (n < 0) raise(rt::kInvalidCall);
+  if (n > kMaxMadeString) raise(14);
   return Variant::str(std::string(static_cast<size_t>(n), ' '));
 }
 
 Variant fnString(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
   if (n < 0) raise(rt::kInvalidCall);
+  if (n > kMaxMadeString) raise(14);
   if (a[1].isNull()) return Variant::null();
   char c;
   if (a[1].isString()) {

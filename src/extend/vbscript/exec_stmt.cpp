@@ -295,9 +295,7 @@ Flow ReDimStmt::exec(Frame& f) const {
         for (size_t d = 0; d + 1 < bounds.size(); ++d)
           if (old.upper[d] != bounds[d]) raise(rt::kSubscript);
         ArrayData& a = p->arrayForWrite();
-        size_t n = 1;
-        for (auto u : bounds) n *= static_cast<size_t>(u + 1);
-        a.items.resize(n);
+        a.items.resize(ArrayData::elementCount(bounds));
         a.upper = bounds;
         continue;
       }

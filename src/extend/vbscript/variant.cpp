@@ -1,5 +1,7 @@
 #include "extend/vbscript/variant.h"
 
+#include "extend/vbscript/errors.h"
+
 namespace lathwick::vbs {
 
 ObjRef::ObjRef(Object* p) : p_(p) {
@@ -26,6 +28,28 @@ ObjRef& ObjRef::operator=(ObjRef&& o) noexcept {
 }
 ObjRef::~ObjRef() {
   if (p_) p_->release();
+}
+
+void Object::release() {
+  if (--refs_ != 0) return;
+  // Releasing an object can release the objects it holds, and so on down a long chain; they
+  // are queued and released one after another instead of recursively.
+  thread_local bool releasing = false;
+  thread_local std::vector<Object*> pending;
+  if (releasing) {
+    pending.push_back(this);
+    return;
+  }
+  releasing = true;
+  struct Done {
+    ~Done() { releasing = false; }
+  } done;
+  lastReleased();
+  while (!pending.empty()) {
+    Object* next = pending.back();
+    pending.pop_back();
+    next->lastReleased();
+  }
 }
 
 Variant Variant::fitted(long long n) {
@@ -72,17 +96,28 @@ Variant& Variant::operator=(const Variant& o) {
 }
 
 ArrayData& Variant::arrayForWrite() {
-  if (a_.use_count() > 1) {
+  // While an element is lent out, the other owners are the lenders themselves: no copy.
+  if (a_.use_count() > 1 && a_->locks == 0) {
     a_ = std::make_shared<ArrayData>(*a_);
     a_->locks = 0;
   }
   return *a_;
 }
 
+std::size_t ArrayData::elementCount(const std::vector<std::int32_t>& upperBounds) {
+  std::size_t n = 1;
+  for (auto u : upperBounds) {
+    const auto extent = static_cast<std::size_t>(static_cast<std::int64_t>(u) + 1);
+    if (extent != 0 && n > kMaxElements / extent) raise(rt::kOutOfMemory);
+    n *= extent;
+  }
+  if (n > kMaxElements) raise(rt::kOutOfMemory);
+  return n;
+}
+
 std::shared_ptr<ArrayData> ArrayData::make(std::vector<std::int32_t> upperBounds, bool fixed) {
   auto a = std::make_shared<ArrayData>();
-  std::size_t n = 1;
-  for (auto u : upperBounds) n *= static_cast<std::size_t>(u + 1);
+  const std::size_t n = elementCount(upperBounds);
   a->upper = std::move(upperBounds);
   a->items.resize(n);
   a->fixed = fixed;

@@ -119,6 +119,9 @@ struct ArrayData {
   bool fixed = false;
   int locks = 0;
   bool allocated() const { return !upper.empty(); }
+  // Elements for these bounds; error 7 beyond kMaxElements.
+  static constexpr std::size_t kMaxElements = std::size_t{1} << 24;
+  static std::size_t elementCount(const std::vector<std::int32_t>& upperBounds);
   static std::shared_ptr<ArrayData> make(std::vector<std::int32_t> upperBounds, bool fixed);
   static std::shared_ptr<ArrayData> ofValues(std::vector<Variant> values);
 };
@@ -147,9 +150,7 @@ class Object {
   virtual const void* memberTableKey() const { return nullptr; }
 
   void addRef() { ++refs_; }
-  void release() {
-    if (--refs_ == 0) lastReleased();
-  }
+  void release();
 
  protected:
   // Called when the last reference goes; the default deletes the object.
