@@ -264,3 +264,43 @@ TEST(ResourceLimits, ReleasingALongChainOfObjectsDoesNotRecurse) {
   e.reset();  // releases the second chain from the engine's side
 }
 }  // namespace
+
+namespace {
+// A host whose methods re-enter the engine, as LoadScriptFile and a save of main.vbs do.
+class ReentrantHost : public HostObject {
+ public:
+  Engine* engine = nullptr;
+  int findMember(std::string_view name) const override {
+    if (lathwick::equalsIgnoreCase(name, "LoadScript")) return 0;
+    if (lathwick::equalsIgnoreCase(name, "ResetAll")) return 1;
+    return -1;
+  }
+  Variant hostInvoke(int member, InvokeKind, std::vector<Variant>& args) override {
+    if (member == 0) return Variant::boolean(engine->addCode(args.at(0).strValue(), "loaded.vbs"));
+    engine->reset();
+    return {};
+  }
+};
+
+TEST(Reentrancy, ScriptsCanAddCodeAndResetWhileRunning) {
+  Engine e;
+  ObjRef host = makeObject<ReentrantHost>();
+  static_cast<ReentrantHost*>(host.get())->engine = &e;
+  e.addObject("App", host, true);
+  ASSERT_TRUE(e.addCode("ok = LoadScript(\"Function Helper()\" & vbCrLf & \"Helper = 41\" & vbCrLf & \"End Function\")\n"
+                        "Function Probe()\nProbe = Helper() + 1\nEnd Function"));
+  auto r = e.run("Probe");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->intValue(), 42);
+  // A failing nested load reports its own error and the caller carries on.
+  ASSERT_TRUE(e.addCode("bad = LoadScript(\"x = (\")\nFunction WasBad()\nWasBad = Not bad\nEnd Function"));
+  r = e.run("WasBad");
+  ASSERT_TRUE(r);
+  EXPECT_TRUE(r->boolValue());
+  // Resetting under a running procedure drops everything without pulling the code away.
+  ASSERT_TRUE(e.addCode("Sub Wipe()\nDim local\nlocal = 1\nResetAll\nlocal = local + 1\nEnd Sub"));
+  EXPECT_TRUE(e.run("Wipe").has_value());
+  EXPECT_TRUE(e.procedures().empty());
+  EXPECT_FALSE(e.run("Wipe").has_value());
+}
+}  // namespace
