@@ -304,3 +304,20 @@ TEST(Reentrancy, ScriptsCanAddCodeAndResetWhileRunning) {
   EXPECT_FALSE(e.run("Wipe").has_value());
 }
 }  // namespace
+
+namespace {
+TEST(ErrorRecords, NameRelatedErrorsAppendTheNameAndOptionExplicitIsPerUnit) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Option Explicit\nDim a\na = 1"));
+  ASSERT_TRUE(e.addCode("b = 2"));  // a later piece does not inherit Option Explicit
+  EXPECT_FALSE(e.addCode("Option Explicit\nc = a + b\n"));
+  const ErrorRecord& r = *e.lastError();
+  EXPECT_EQ(r.number, 500);
+  EXPECT_EQ(r.description, "Variable is undefined");
+  EXPECT_EQ(r.message(), "Variable is undefined: 'c'");
+  EXPECT_EQ(r.line, 2);
+  EXPECT_EQ(r.column, 1);
+  EXPECT_FALSE(e.addCode("x = 1\nUnknownProc 3"));
+  EXPECT_EQ(e.lastError()->message(), "Type mismatch: 'UnknownProc'");
+}
+}  // namespace

@@ -103,17 +103,8 @@ Variant radix(Runtime& rt, const Variant& v, const char* fmt) {
 Variant fnHex(Runtime& rt, Args& a) { return radix(rt, a[0], "%X"); }
 Variant fnOct(Runtime& rt, Args& a) { return radix(rt, a[0], "%o"); }
 
-struct RndState {
-  std::uint32_t seed = 327680;
-  double last = 0;
-};
-RndState& rnd() {
-  static RndState s;
-  return s;
-}
-
 Variant fnRnd(Runtime& rt, Args& a) {
-  RndState& s = rnd();
+  Runtime::RandomState& s = rt.random;
   double n = given(a, 0) ? toDouble(rt, a[0]) : 1.0;
   if (n == 0) return Variant::single(s.last);
   if (n < 0) {
@@ -128,7 +119,7 @@ Variant fnRnd(Runtime& rt, Args& a) {
 }
 
 Variant fnRandomize(Runtime& rt, Args& a) {
-  RndState& s = rnd();
+  Runtime::RandomState& s = rt.random;
   double n;
   if (given(a, 0)) n = toDouble(rt, a[0]);
   else n = static_cast<double>(std::chrono::steady_clock::now().time_since_epoch().count() % 86400000) / 1000.0;

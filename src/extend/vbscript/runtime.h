@@ -171,6 +171,11 @@ class Runtime {
     int helpContext = 0;
   } err;
   ObjRef errObject;
+  // Rnd's generator: each engine starts the same sequence until Randomize.
+  struct RandomState {
+    std::uint32_t seed = 327680;
+    double last = 0;
+  } random;
   UiCallbacks ui;
   std::atomic<bool> interruptFlag{false};
   int interruptNumber = kObjectError + 1;
