@@ -322,11 +322,9 @@ StmtPtr Parser::selectStatement() {
         if (isKw(Kw::To)) fail(ce::kExpectedCase);
       }
       c.body = block();
-      if (c.values.empty()) s->cases.insert(s->cases.end(), std::move(c));
-      else s->cases.push_back(std::move(c));
+      s->cases.push_back(std::move(c));  // Case Else, when present, is the last
     } else if (acceptKw(Kw::End)) {
       expectKw(Kw::Select, ce::kExpectedSelect);
-      // Case Else is kept last whatever its position in the list.
       return s;
     } else if (is(Tok::End)) {
       fail(ce::kExpectedEnd);
