@@ -61,7 +61,7 @@ Variant fnInStr(Runtime& rt, Args& a) {
   const bool text = a.size() == 4 ? textCompare(rt, a, 3) : false;
   if (a[i].isNull() || a[i + 1].isNull()) return Variant::null();
   const std::string s1 = toStr(rt, a[i]), s2 = toStr(rt, a[i + 1]);
-  if (static_cast<size_t>(start) > s1.size()) return Variant::longv(s2.empty() && s1.empty() && start == 1 ? 0 : 0);
+  if (static_cast<size_t>(start) > s1.size()) return Variant::longv(0);
   if (s2.empty()) return Variant::longv(start);
   const size_t p = findText(s1, s2, static_cast<size_t>(start - 1), text);
   return Variant::longv(p == std::string::npos ? 0 : static_cast<std::int32_t>(p + 1));

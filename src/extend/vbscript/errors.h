@@ -23,7 +23,8 @@ inline constexpr int kInvalidCall = 5, kOverflow = 6, kOutOfMemory = 7, kSubscri
 // Compilation error numbers.
 namespace ce {
 inline constexpr int kOutOfMemory = 1001, kSyntax = 1002, kExpectedColon = 1003,
-                     kExpectedLParen = 1005, kExpectedRParen = 1006, kExpectedIdent = 1010,
+                     kExpectedLParen = 1005, kExpectedRParen = 1006, kExpectedRBracket = 1007,
+                     kExpectedIdent = 1010,
                      kExpectedEq = 1011, kExpectedIf = 1012, kExpectedTo = 1013, kExpectedEnd = 1014,
                      kExpectedFunction = 1015, kExpectedSub = 1016, kExpectedThen = 1017,
                      kExpectedWend = 1018, kExpectedLoop = 1019, kExpectedNext = 1020,
@@ -35,7 +36,7 @@ inline constexpr int kOutOfMemory = 1001, kSyntax = 1002, kExpectedColon = 1003,
                      kLoopWithoutDo = 1038, kInvalidExit = 1039, kInvalidForVar = 1040,
                      kRedefined = 1041, kMustBeFirst = 1042, kParensOnSub = 1044,
                      kExpectedLiteral = 1045, kExpectedIn = 1046, kExpectedClass = 1047,
-                     kExpectedLetSetGet = 1049, kExpectedProperty = 1050, kPropArgCount = 1051,
+                     kNotInClass = 1048, kExpectedLetSetGet = 1049, kExpectedProperty = 1050, kPropArgCount = 1051,
                      kMultipleDefault = 1052, kInitArgs = 1053, kLetSetNoArgs = 1054,
                      kUnexpectedNext = 1055, kDefaultPlacement = 1056, kDefaultNotPublic = 1057,
                      kDefaultNotGet = 1058;

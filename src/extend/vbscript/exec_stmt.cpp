@@ -149,9 +149,21 @@ void increment(Runtime& rt, Variant& counter, const Variant& step) {
 
 Flow ForStmt::exec(Frame& f) const {
   Runtime& rt = f.rt;
-  const Variant start = loopNumber(rt, from->eval(f));
-  const Variant end = loopNumber(rt, to->eval(f));
-  const Variant stepValue = step ? loopNumber(rt, step->eval(f)) : Variant::integer(1);
+  Variant start, end, stepValue;
+  try {
+    start = loopNumber(rt, from->eval(f));
+    end = loopNumber(rt, to->eval(f));
+    stepValue = step ? loopNumber(rt, step->eval(f)) : Variant::integer(1);
+  } catch (ScriptError& e) {
+    if (!f.resumeNext) throw;
+    // Resumed: the body runs once with the counter untouched, then Next fails with 92,
+    // which is resumed past too.
+    absorb(f, e);
+    const Flow r = execBlock(f, body);
+    if (r != Flow::Normal && r != Flow::ExitFor) return r;
+    f.rt.setErr(ScriptError(rt::kForNotInit, errorText(rt::kForNotInit), kRuntimeSource));
+    return Flow::Normal;
+  }
   const double last = end.number();
   const bool up = stepValue.number() >= 0;
   Variant* counter = var->writable(f);

@@ -125,7 +125,7 @@ class Lexer {
   void bracketIdent(int col) {
     const size_t start = ++pos_;
     while (pos_ < s_.size() && s_[pos_] != ']' && s_[pos_] != '\r' && s_[pos_] != '\n') ++pos_;
-    if (pos_ >= s_.size() || s_[pos_] != ']') fail(ce::kExpectedLParen + 2, col);  // Expected ']'
+    if (pos_ >= s_.size() || s_[pos_] != ']') fail(ce::kExpectedRBracket, col);
     std::string_view word = s_.substr(start, pos_ - start);
     ++pos_;
     if (word.size() > 255) fail(ce::kIdentTooLong, col);

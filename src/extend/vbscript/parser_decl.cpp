@@ -6,10 +6,6 @@
 
 namespace lathwick::vbs {
 
-namespace {
-constexpr int kNotInClass = 1048;
-}
-
 void compileUnit(Runtime& rt, SourceUnit& unit) {
   const Lexed lexed = lex(unit.text);
   Parser(rt, unit, lexed).parseUnit();
@@ -78,7 +74,7 @@ StmtPtr Parser::declaration() {
     return nullptr;
   }
   if (isWord("Property")) {
-    if (!class_ || scope_) fail(kNotInClass);
+    if (!class_ || scope_) fail(ce::kNotInClass);
     take();
     ProcKind kind;
     if (isKw(Kw::Set)) kind = ProcKind::PropertySet;
@@ -261,7 +257,6 @@ ProcPtr Parser::procedure(ProcKind kind, bool isPublic, bool isDefault, ClassDef
 
 void Parser::classDeclaration() {
   take();  // Class
-  const Token& nameTok = cur();
   ClassScope cs;
   cs.cls = std::make_shared<ClassDef>();
   cs.cls->name = identifier();
@@ -293,7 +288,6 @@ void Parser::classDeclaration() {
   class_ = nullptr;
   rt_.entry(cs.cls->name);
   unit_.classes.push_back(cs.cls);
-  (void)nameTok;
 }
 
 void Parser::bindGlobal(NameExpr* n, Procedure* proc, bool assigned,

@@ -140,7 +140,7 @@ StmtPtr Parser::statement() {
     if (equalsIgnoreCase(t.text, "Property") && !scope_ &&
         ((peek().kind == Tok::Ident && (equalsIgnoreCase(peek().text, "Get") || equalsIgnoreCase(peek().text, "Let"))) ||
          (peek().kind == Tok::Keyword && peek().kw == Kw::Set)))
-      fail(1048);
+      fail(ce::kNotInClass);
     if (equalsIgnoreCase(t.text, "Let") && peek().kind == Tok::Ident) take();
     return assignmentOrCall();
   }
