@@ -1,5 +1,7 @@
 // String functions. Strings are byte strings: one byte is one character.
 #include <algorithm>
+#include <cctype>
+#include <cstring>
 
 #include "extend/vbscript/builtins.h"
 #include "platform/bytes.h"
@@ -271,6 +273,54 @@ Variant fnChrW(Runtime& rt, Args& a) {
   return Variant::str(std::move(s));
 }
 
+// Escape: letters, digits and @*_+-./ stay; other bytes become %XX.
+Variant fnEscape(Runtime& rt, Args& a) {
+  if (a[0].isNull()) return Variant::null();
+  const std::string s = toStr(rt, a[0]);
+  static const char* hex = "0123456789ABCDEF";
+  std::string out;
+  for (unsigned char c : s) {
+    if (std::isalnum(c) || std::strchr("@*_+-./", c)) {
+      out += static_cast<char>(c);
+    } else {
+      out += '%';
+      out += hex[c >> 4];
+      out += hex[c & 15];
+    }
+  }
+  return Variant::str(std::move(out));
+}
+
+// Unescape: %XX and %uXXXX (codes above 255 as UTF-8, like ChrW); malformed escapes stay.
+Variant fnUnescape(Runtime& rt, Args& a) {
+  if (a[0].isNull()) return Variant::null();
+  const std::string s = toStr(rt, a[0]);
+  auto hexAt = [&](size_t i, size_t n, std::int32_t& v) {
+    if (i + n > s.size()) return false;
+    v = 0;
+    for (size_t k = i; k < i + n; ++k) {
+      if (!std::isxdigit(static_cast<unsigned char>(s[k]))) return false;
+      v = v * 16 + (std::isdigit(static_cast<unsigned char>(s[k])) ? s[k] - '0' : (s[k] | 0x20) - 'a' + 10);
+    }
+    return true;
+  };
+  std::string out;
+  for (size_t i = 0; i < s.size(); ++i) {
+    std::int32_t v;
+    if (s[i] == '%' && i + 1 < s.size() && (s[i + 1] == 'u' || s[i + 1] == 'U') && hexAt(i + 2, 4, v)) {
+      std::vector<Variant> code{Variant::longv(v)};
+      out += fnChrW(rt, code).strValue();
+      i += 5;
+    } else if (s[i] == '%' && hexAt(i + 1, 2, v)) {
+      out += static_cast<char>(v);
+      i += 2;
+    } else {
+      out += s[i];
+    }
+  }
+  return Variant::str(std::move(out));
+}
+
 const Builtin kRows[] = {
     {"Len", 1, 1, fnLen},         {"Left", 2, 2, fnLeft},         {"Right", 2, 2, fnRight},
     {"Mid", 2, 3, fnMid},         {"InStr", 2, 4, fnInStr},       {"InStrRev", 2, 4, fnInStrRev},
@@ -280,7 +330,7 @@ const Builtin kRows[] = {
     {"Replace", 3, 6, fnReplace}, {"Split", 1, 4, fnSplit},       {"Join", 1, 2, fnJoin},
     {"Filter", 2, 4, fnFilter},   {"Asc", 1, 1, fnAsc},           {"AscW", 1, 1, fnAscW},
     {"AscB", 1, 1, fnAsc},        {"Chr", 1, 1, fnChr},           {"ChrW", 1, 1, fnChrW},
-    {"ChrB", 1, 1, fnChr},
+    {"ChrB", 1, 1, fnChr},        {"Escape", 1, 1, fnEscape},     {"Unescape", 1, 1, fnUnescape},
 };
 }  // namespace
 
