@@ -321,3 +321,17 @@ TEST(ErrorRecords, NameRelatedErrorsAppendTheNameAndOptionExplicitIsPerUnit) {
   EXPECT_EQ(e.lastError()->message(), "Type mismatch: 'UnknownProc'");
 }
 }  // namespace
+
+namespace {
+TEST(RegExpEngine, LongSubjectsNeitherExhaustTheStackNorStallOnHopelessSearches) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Set re = New RegExp\nre.Global = True\ns = String(300000, \"a\") & \";\"\n"
+                        "re.Pattern = \"(a|b)*;\"\nn1 = re.Execute(s).Count\n"
+                        "re.Pattern = \"a*\"\nn2 = re.Execute(s).Count\n"
+                        "re.Pattern = \"[^;]*Q\"\nn3 = re.Execute(s).Count\n"
+                        "Function R()\nR = n1 & \" \" & n2 & \" \" & n3\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "1 3 0");
+}
+}  // namespace

@@ -1,10 +1,11 @@
 #include "extend/vbscript/regexp.h"
 
-#include <optional>
-#include <regex>
+#include <functional>
+#include <memory>
 
 #include "extend/vbscript/convert.h"
 #include "extend/vbscript/errors.h"
+#include "extend/vbscript/regex_engine.h"
 #include "extend/vbscript/runtime.h"
 #include "platform/bytes.h"
 
@@ -110,53 +111,50 @@ class RegExpObject : public Object {
     }
     if (args.size() != 1) raise(rt::kWrongArgs);
     const std::string s = text(rt, *args[0]);
-    if (member == 4) return Variant::boolean(std::regex_search(s, regex(rt)));
+    if (member == 4) {
+      std::vector<int> g;
+      return Variant::boolean(regex().search(s, 0, g, [&rt] { rt.checkInterrupt(); }));
+    }
     return execute(rt, s);
   }
 
  private:
   static std::string text(Runtime& rt, const Variant& v) { return v.isNull() ? std::string() : toStr(rt, v); }
 
-  const std::regex& regex(Runtime&) {
-    if (!compiled_) {
-      auto flags = std::regex::ECMAScript;
-      if (ignoreCase_) flags |= std::regex::icase;
-      if (multiline_) flags |= std::regex::multiline;
-      try {
-        compiled_.emplace(pattern_, flags);
-      } catch (const std::regex_error& e) {
-        switch (e.code()) {
-          case std::regex_constants::error_brack: raise(5019);
-          case std::regex_constants::error_paren: raise(5020);
-          case std::regex_constants::error_range: raise(5021);
-          case std::regex_constants::error_badrepeat: raise(5018);
-          default: raise(5017);
-        }
-      }
-    }
+  const Regex& regex() {
+    if (!compiled_) compiled_ = std::make_unique<Regex>(pattern_, Regex::Options{ignoreCase_, multiline_});
     return *compiled_;
   }
 
+  // A match: the whole match's text, position and length, and the groups' texts.
+  struct Found {
+    size_t pos, len;
+    std::vector<Variant> groups;
+  };
+
   template <class F>
   void eachMatch(Runtime& rt, const std::string& s, F&& f) {
-    const std::regex& re = regex(rt);
-    try {
-      for (auto it = std::sregex_iterator(s.begin(), s.end(), re); it != std::sregex_iterator(); ++it) {
-        f(*it);
-        if (!global_) break;
-      }
-    } catch (const std::regex_error&) {
-      raise(rt::kOutOfStack);  // the matcher ran out of room on a pathological pattern
+    const Regex& re = regex();
+    const std::function<void()> poll = [&rt] { rt.checkInterrupt(); };
+    std::vector<int> g;
+    size_t from = 0;
+    while (from <= s.size() && re.search(s, from, g, poll)) {
+      Found m{static_cast<size_t>(g[0]), static_cast<size_t>(g[1] - g[0]), {}};
+      for (size_t i = 1; 2 * i + 1 < g.size(); ++i)
+        m.groups.push_back(g[2 * i] >= 0 && g[2 * i + 1] >= 0
+                               ? Variant::str(s.substr(static_cast<size_t>(g[2 * i]), static_cast<size_t>(g[2 * i + 1] - g[2 * i])))
+                               : Variant());
+      f(m);
+      if (!global_) break;
+      from = m.pos + (m.len == 0 ? 1 : m.len);
     }
   }
 
   Variant execute(Runtime& rt, const std::string& s) {
     std::vector<Variant> matches;
-    eachMatch(rt, s, [&](const std::smatch& m) {
-      std::vector<Variant> subs;
-      for (size_t i = 1; i < m.size(); ++i)
-        subs.push_back(m[i].matched ? Variant::str(m[i].str()) : Variant());
-      matches.push_back(Variant::object(makeObject<MatchObject>(m.str(), static_cast<std::int32_t>(m.position()), std::move(subs))));
+    eachMatch(rt, s, [&](Found& m) {
+      matches.push_back(Variant::object(
+          makeObject<MatchObject>(s.substr(m.pos, m.len), static_cast<std::int32_t>(m.pos), std::move(m.groups))));
     });
     return Variant::object(makeObject<ListObject>("IMatchCollection2", std::move(matches)));
   }
@@ -164,8 +162,8 @@ class RegExpObject : public Object {
   std::string replace(Runtime& rt, const std::string& s, const std::string& repl) {
     std::string out;
     size_t last = 0;
-    eachMatch(rt, s, [&](const std::smatch& m) {
-      const size_t pos = static_cast<size_t>(m.position());
+    eachMatch(rt, s, [&](Found& m) {
+      const size_t pos = m.pos;
       out.append(s, last, pos - last);
       for (size_t i = 0; i < repl.size(); ++i) {
         const char c = repl[i];
@@ -175,23 +173,23 @@ class RegExpObject : public Object {
         }
         const char n = repl[i + 1];
         if (n == '$') out += '$', ++i;
-        else if (n == '&') out += m.str(), ++i;
+        else if (n == '&') out.append(s, pos, m.len), ++i;
         else if (n == '`') out.append(s, 0, pos), ++i;
-        else if (n == '\'') out.append(s, pos + static_cast<size_t>(m.length()), std::string::npos), ++i;
+        else if (n == '\'') out.append(s, pos + m.len, std::string::npos), ++i;
         else if (n >= '1' && n <= '9') {
           size_t group = static_cast<size_t>(n - '0');
           size_t used = 1;
           if (i + 2 < repl.size() && repl[i + 2] >= '0' && repl[i + 2] <= '9') {
             const size_t two = group * 10 + static_cast<size_t>(repl[i + 2] - '0');
-            if (two < m.size()) group = two, used = 2;
+            if (two <= m.groups.size()) group = two, used = 2;
           }
-          if (group < m.size()) out += m[group].str(), i += used;
+          if (group <= m.groups.size()) out += plainText(m.groups[group - 1]), i += used;
           else out += c;
         } else {
           out += c;
         }
       }
-      last = pos + static_cast<size_t>(m.length());
+      last = pos + m.len;
     });
     out.append(s, last, std::string::npos);
     return out;
@@ -199,7 +197,7 @@ class RegExpObject : public Object {
 
   std::string pattern_;
   bool ignoreCase_ = false, global_ = false, multiline_ = false;
-  std::optional<std::regex> compiled_;
+  std::unique_ptr<Regex> compiled_;
 };
 }  // namespace
 
