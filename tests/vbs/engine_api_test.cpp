@@ -335,3 +335,19 @@ TEST(RegExpEngine, LongSubjectsNeitherExhaustTheStackNorStallOnHopelessSearches)
   EXPECT_EQ(r->strValue(), "1 3 0");
 }
 }  // namespace
+
+namespace {
+TEST(Interrupt, ThePollCallbackLetsASingleThreadedHostStopAMacro) {
+  Engine e;
+  int polls = 0;
+  UiCallbacks ui;
+  ui.poll = [&] {
+    if (++polls == 3) e.interrupt();
+  };
+  e.setUi(ui);
+  EXPECT_FALSE(e.addCode("Sub Spin()\nSpin2\nEnd Sub\nSub Spin2()\nEnd Sub\nDo\nSpin\nLoop"));
+  EXPECT_EQ(polls, 3);
+  EXPECT_EQ(e.lastError()->number, kObjectError + 1);
+  EXPECT_EQ(e.lastError()->description, "Script interrupted");
+}
+}  // namespace

@@ -31,6 +31,9 @@ struct UiCallbacks {
   std::function<std::optional<std::string>(const std::string& prompt, const std::string& title,
                                            const std::string& defaultText)>
       inputBox;
+  // Called every 16384 loop turns or calls while a macro runs, so that a single-threaded host
+  // can process pending events (the Esc key) and call Engine::interrupt().
+  std::function<void()> poll;
 };
 
 }  // namespace lathwick::vbs

@@ -153,7 +153,10 @@ class Runtime {
   Variant newBuiltinObject(std::string_view name);
   // A host global member with this name (step 6 of name lookup), cached in the entry.
   bool hostGlobal(GlobalEntry* e, Object*& obj, int& member);
+  // At loop turns and calls: now and then lets the host process its events (where Esc
+  // arrives), then stops if an interrupt was asked for.
   void checkInterrupt() {
+    if ((++pollTick_ & 0x3FFF) == 0 && ui.poll) ui.poll();
     if (interruptFlag.load(std::memory_order_relaxed)) throwInterrupt();
   }
   [[noreturn]] void throwInterrupt();
@@ -199,6 +202,7 @@ class Runtime {
   std::unordered_map<std::string, GlobalEntry*> byName_;
   int depth_ = 0;
   const char* stackBase_ = nullptr;
+  unsigned pollTick_ = 0;
 };
 
 std::string lowerName(std::string_view s);
