@@ -139,13 +139,18 @@ class RegexCompiler {
     return n;
   }
 
-  NodePtr classNode(const std::bitset<256>& bits) {
-    NodePtr n = node(Node::Class);
+  // Both cases of every letter in the set (before a negation is applied).
+  std::bitset<256> folded(const std::bitset<256>& bits) const {
     std::bitset<256> b = bits;
     if (re_.opt_.ignoreCase)
       for (int c = 0; c < 256; ++c)
         if (bits[static_cast<size_t>(c)]) b.set(lower(static_cast<unsigned char>(c))), b.set(static_cast<size_t>(std::toupper(c)));
-    re_.classes_.push_back(b);
+    return b;
+  }
+
+  NodePtr classNode(const std::bitset<256>& bits) {
+    NodePtr n = node(Node::Class);
+    re_.classes_.push_back(bits);
     n->index = static_cast<int>(re_.classes_.size()) - 1;
     return n;
   }
@@ -293,6 +298,7 @@ class RegexCompiler {
       for (int k = lo; k <= hi; ++k) b.set(static_cast<size_t>(k));
     }
     ++i_;  // ]
+    b = folded(b);
     if (negate) b.flip();
     return classNode(b);
   }

@@ -33,3 +33,7 @@ WriteLine re.Replace("X1.25", "$2.$1 $3")        ' expect: X25.1 $3
 re.Pattern = "g01"
 re.IgnoreCase = True
 WriteLine re.Test("N10 G01 X1")                  ' expect: True
+re.Pattern = "[^g]+"
+WriteLine re.Execute("xGy")(0).Value             ' expect: x
+re.Pattern = "[a-c]+"
+WriteLine re.Execute("xABCy")(0).Value           ' expect: ABC
