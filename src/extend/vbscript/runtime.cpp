@@ -263,7 +263,18 @@ Variant HostObject::invoke(Runtime&, int member, InvokeKind kind, const ArgRefs&
   } catch (const std::bad_alloc&) {
     raise(rt::kOutOfMemory);
   }
-  for (size_t i = 0; i < args.size() && i < values.size(); ++i) *args[i] = std::move(values[i]);
+  // Only what the host changed goes back (the caller's variable may have changed meanwhile).
+  auto same = [](const Variant& a, const Variant& b) {
+    if (a.type() != b.type()) return false;
+    switch (a.type()) {
+      case VT::String: return a.strValue() == b.strValue();
+      case VT::Object: return a.objValue() == b.objValue();
+      case VT::Array: return a.arrValue() == b.arrValue();
+      default: return a.isIntegral() ? a.intValue() == b.intValue() : a.dblValue() == b.dblValue();
+    }
+  };
+  for (size_t i = 0; i < args.size() && i < values.size(); ++i)
+    if (!same(values[i], *args[i])) *args[i] = std::move(values[i]);
   return r;
 }
 
