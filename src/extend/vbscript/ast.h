@@ -188,9 +188,17 @@ class CallStmt : public Stmt {
   Flow exec(Frame& f) const override;
 };
 
+// Dim of a local fixed array or a scalar: storage is made when the frame starts; nothing runs.
+// Also marks a position inside a statement (an ElseIf line) for error reports.
+class NopStmt : public Stmt {
+ public:
+  Flow exec(Frame&) const override { return Flow::Normal; }
+};
+
 class IfStmt : public Stmt {
  public:
   std::vector<std::pair<ExprPtr, Block>> branches;
+  std::vector<std::unique_ptr<NopStmt>> elseIfAt;  // position of each ElseIf (branches 1...)
   Block elseBlock;
   Flow exec(Frame& f) const override;
 };
@@ -269,10 +277,5 @@ class EraseStmt : public Stmt {
   Flow exec(Frame& f) const override;
 };
 
-// Dim of a local fixed array or a scalar: storage is made when the frame starts; nothing runs.
-class NopStmt : public Stmt {
- public:
-  Flow exec(Frame&) const override { return Flow::Normal; }
-};
 
 }  // namespace lathwick::vbs

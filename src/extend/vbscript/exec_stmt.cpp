@@ -84,8 +84,10 @@ Flow CallStmt::exec(Frame& f) const {
 }
 
 Flow IfStmt::exec(Frame& f) const {
-  for (const auto& [cond, body] : branches)
-    if (condition(f, *cond)) return execBlock(f, body);
+  for (size_t i = 0; i < branches.size(); ++i) {
+    if (i > 0) f.current = elseIfAt[i - 1].get();  // an error here is reported at its ElseIf
+    if (condition(f, *branches[i].first)) return execBlock(f, branches[i].second);
+  }
   return execBlock(f, elseBlock);
 }
 

@@ -276,7 +276,7 @@ StmtPtr Parser::ifStatement() {
   s->branches.emplace_back(std::move(cond), std::move(body));
   while (true) {
     if (isKw(Kw::ElseIf)) {
-      take();
+      s->elseIfAt.push_back(at<NopStmt>(take()));
       ExprPtr c = expression();
       expectKw(Kw::Then, ce::kExpectedThen);
       Block b = block();
