@@ -6,11 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "extend/vbscript/errors.h"
 #include "extend/vbscript/variant.h"
 
 namespace lathwick::vbs {
 
-// Base for host objects. Members are found by name (case-insensitive) and then invoked by id:
+// Base for host objects. A host object implements findMember (name -> id, -1 when unknown,
+// case-insensitive) and hostInvoke; it may override typeName (TypeName's answer),
+// defaultMember (the id used by `obj(args)` and `x = obj`) and enumerate (For Each).
+// Members are invoked by id:
 //   Get  - a property read, or a method used for its value (`x = o.M(1)`)
 //   Let  - a property write; the value is the last argument
 //   Set  - an object property write (`Set o.P = x`); the value is the last argument
