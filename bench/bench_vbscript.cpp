@@ -46,6 +46,13 @@ void BM_Concat(benchmark::State& state) {
 }
 BENCHMARK(BM_Concat)->Arg(25000)->Arg(50000)->Arg(100000)->Arg(200000)->Unit(benchmark::kMillisecond)->Complexity();
 
+// Building lines: `s = s & a & b` also appends in place.
+void BM_ConcatLines(benchmark::State& state) {
+  runOnce(state, "s = \"\"\nFor i = 1 To " + std::to_string(state.range(0)) + "\n  s = s & \"N\" & i & vbCrLf\nNext\n");
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(BM_ConcatLines)->Arg(25000)->Arg(50000)->Arg(100000)->Arg(200000)->Unit(benchmark::kMillisecond)->Complexity();
+
 // A million calls of a small Function.
 void BM_MillionCalls(benchmark::State& state) {
   runOnce(state,

@@ -174,11 +174,18 @@ class AssignStmt : public Stmt {
   Flow exec(Frame& f) const override;
 };
 
-// `s = s & expr` on a plain variable: appends in place instead of copying the string.
+// `s = s & a & b ...` on a plain variable: appends in place instead of copying the string.
 class AppendStmt : public Stmt {
  public:
   std::unique_ptr<NameExpr> target;
-  ExprPtr value;
+  ExprPtr value;                      // the whole concatenation (used when s is no string)
+  std::vector<const Expr*> pieces;    // a, b, ... in order
+  // Appending in place is right only when evaluating the pieces cannot change the variable:
+  // they may read variables and call built-in functions, nothing else.
+  bool simpleShape = false;
+  std::vector<const NameExpr*> names;    // every name the pieces read
+  std::vector<const NameExpr*> callees;  // every name the pieces call with arguments
+  bool safe(Frame& f) const;
   Flow exec(Frame& f) const override;
 };
 

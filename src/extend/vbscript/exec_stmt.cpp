@@ -53,23 +53,66 @@ Flow AssignStmt::exec(Frame& f) const {
   return Flow::Normal;
 }
 
-Flow AppendStmt::exec(Frame& f) const {
-  const auto* cat = static_cast<const BinaryExpr*>(value.get());
-  Variant* p = target->writable(f);
-  if (p && p->isString()) {
-    Variant tail = cat->right->eval(f);
-    p = target->writable(f);
-    if (p && p->isString()) {
-      if (tail.isObject()) tail = valueOf(f.rt, tail);
-      if (tail.isArray()) raise(rt::kTypeMismatch);
-      if (tail.isString()) p->strRef() += tail.strValue();
-      else if (!tail.isNull()) p->strRef() += plainText(tail);
-      return Flow::Normal;
+namespace {
+// Built-in functions that run script code or hand control to the host.
+bool reentrant(const Builtin* b) {
+  static const char* const kNames[] = {"Execute", "ExecuteGlobal", "Eval", "MsgBox", "InputBox"};
+  for (const char* n : kNames)
+    if (std::string_view(b->name) == n) return true;
+  return false;
+}
+
+bool isBuiltin(const NameExpr& n) {
+  return (n.kind == BindKind::Global || n.kind == BindKind::Implicit) && n.entry->kind == GlobalEntry::Undefined &&
+         n.entry->builtin && !reentrant(n.entry->builtin);
+}
+}  // namespace
+
+bool AppendStmt::safe(Frame& f) const {
+  if (!simpleShape) return false;
+  for (const NameExpr* n : names)
+    if (!n->readable(f) && !isBuiltin(*n)) return false;
+  for (const NameExpr* n : callees) {
+    if (Variant* v = n->readable(f)) {
+      if (!v->isArray()) return false;  // indexing an array is fine; a default member call is not
+    } else if (!isBuiltin(*n)) {
+      return false;
     }
-    target->assign(f, concat(f.rt, p ? *p : target->eval(f), tail), false);
+  }
+  return true;
+}
+
+Flow AppendStmt::exec(Frame& f) const {
+  Variant* p = target->writable(f);
+  if (!p || !p->isString() || !safe(f)) {
+    target->assign(f, value->eval(f), false);
     return Flow::Normal;
   }
-  target->assign(f, value->eval(f), false);
+  if (pieces.size() == 1) {
+    Variant tail = pieces[0]->eval(f);
+    if (tail.isObject()) tail = valueOf(f.rt, tail);
+    if (tail.isArray()) raise(rt::kTypeMismatch);
+    p = target->writable(f);  // the piece may have run code that changed the variable
+    if (!p || !p->isString()) {
+      target->assign(f, concat(f.rt, target->eval(f), tail), false);
+    } else if (tail.isString()) {
+      p->strRef() += tail.strValue();
+    } else if (!tail.isNull()) {
+      p->strRef() += plainText(tail);
+    }
+    return Flow::Normal;
+  }
+  std::string text;
+  for (const Expr* e : pieces) {
+    Variant v = e->eval(f);
+    if (v.isObject()) v = valueOf(f.rt, v);
+    if (v.isArray()) raise(rt::kTypeMismatch);
+    if (v.isString()) text += v.strValue();
+    else if (!v.isNull()) text += plainText(v);
+  }
+  p = target->writable(f);
+  if (p && p->isString()) p->strRef() += text;
+  else target->assign(f, concat(f.rt, target->eval(f), Variant::str(std::move(text))), false);
   return Flow::Normal;
 }
 

@@ -14,6 +14,29 @@ std::unique_ptr<T> at(const Token& t) {
   return n;
 }
 
+// Gathers the names an expression reads and calls; false when it has members, New or calls
+// through anything but a plain name.
+bool collectNames(const Expr* e, std::vector<const NameExpr*>& names, std::vector<const NameExpr*>& callees) {
+  if (dynamic_cast<const LiteralExpr*>(e)) return true;
+  if (auto* n = dynamic_cast<const NameExpr*>(e)) {
+    names.push_back(n);
+    return true;
+  }
+  if (auto* p = dynamic_cast<const ParenExpr*>(e)) return collectNames(p->inner.get(), names, callees);
+  if (auto* u = dynamic_cast<const UnaryExpr*>(e)) return collectNames(u->operand.get(), names, callees);
+  if (auto* b = dynamic_cast<const BinaryExpr*>(e))
+    return collectNames(b->left.get(), names, callees) && collectNames(b->right.get(), names, callees);
+  if (auto* c = dynamic_cast<const CallExpr*>(e)) {
+    auto* callee = dynamic_cast<const NameExpr*>(c->callee.get());
+    if (!callee) return false;
+    callees.push_back(callee);
+    for (const auto& a : c->args)
+      if (!collectNames(a.get(), names, callees)) return false;
+    return true;
+  }
+  return false;
+}
+
 struct StatementRule {
   Kw kw;
   StmtPtr (Parser::*parse)();
@@ -168,15 +191,24 @@ StmtPtr Parser::assignmentOrCall() {
     if (dynamic_cast<ParenExpr*>(lhs.get()) || dynamic_cast<MeExpr*>(lhs.get())) fail(ce::kSyntax);
     take();
     ExprPtr value = expression();
-    // `s = s & x` appends in place.
+    // `s = s & a & b` appends in place.
     if (auto* target = dynamic_cast<NameExpr*>(lhs.get())) {
-      if (auto* cat = dynamic_cast<BinaryExpr*>(value.get()); cat && cat->op == BinOp::Concat) {
-        if (auto* left = dynamic_cast<NameExpr*>(cat->left.get()); left && equalsIgnoreCase(left->name, target->name)) {
-          auto s = at<AppendStmt>(start);
-          s->target.reset(static_cast<NameExpr*>(lhs.release()));
-          s->value = std::move(value);
-          return s;
-        }
+      std::vector<const Expr*> pieces;
+      const Expr* leftmost = value.get();
+      while (auto* cat = dynamic_cast<const BinaryExpr*>(leftmost)) {
+        if (cat->op != BinOp::Concat) break;
+        pieces.insert(pieces.begin(), cat->right.get());
+        leftmost = cat->left.get();
+      }
+      auto* left = dynamic_cast<const NameExpr*>(leftmost);
+      if (!pieces.empty() && left && equalsIgnoreCase(left->name, target->name)) {
+        auto s = at<AppendStmt>(start);
+        s->target.reset(static_cast<NameExpr*>(lhs.release()));
+        s->value = std::move(value);
+        s->pieces = std::move(pieces);
+        s->simpleShape = true;
+        for (const Expr* e : s->pieces) s->simpleShape = s->simpleShape && collectNames(e, s->names, s->callees);
+        return s;
       }
     }
     auto s = at<AssignStmt>(start);
