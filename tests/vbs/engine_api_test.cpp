@@ -351,3 +351,55 @@ TEST(Interrupt, ThePollCallbackLetsASingleThreadedHostStopAMacro) {
   EXPECT_EQ(e.lastError()->description, "Script interrupted");
 }
 }  // namespace
+
+namespace {
+// A host collection: default Item(i) with get and let, Count, Add, and For Each.
+class FakeList : public HostObject {
+ public:
+  std::vector<Variant> items;
+  std::string typeName() const override { return "LineList"; }
+  int findMember(std::string_view name) const override {
+    static const char* names[] = {"Item", "Count", "Add"};
+    for (int i = 0; i < 3; ++i)
+      if (lathwick::equalsIgnoreCase(name, names[i])) return i;
+    return -1;
+  }
+  int defaultMember() const override { return 0; }
+  bool enumerate(Runtime&, std::vector<Variant>& out) override {
+    out = items;
+    return true;
+  }
+  Variant hostInvoke(int member, InvokeKind kind, std::vector<Variant>& args) override {
+    switch (member) {
+      case 0: {
+        const auto i = static_cast<size_t>(args.at(0).intValue());
+        if (i >= items.size()) throw ScriptError(9, errorText(9), "LineList");
+        if (kind == InvokeKind::Let) {
+          items[i] = args.at(1);
+          return {};
+        }
+        return items[i];
+      }
+      case 1: return Variant::longv(static_cast<std::int32_t>(items.size()));
+      default: items.push_back(args.at(0)); return {};
+    }
+  }
+};
+
+TEST(HostObjects, DefaultMemberIndexedLetAndForEach) {
+  Engine e;
+  ObjRef list = makeObject<FakeList>();
+  e.addObject("Lines", list, false);
+  ASSERT_TRUE(e.addCode("Lines.Add \"G00\"\nLines.Add \"G01\"\nLines(1) = Lines(1) & \" X1\"\n"
+                        "For Each l In Lines\n  s = s & l & \";\"\nNext\n"
+                        "Function R()\nR = s & Lines.Count & TypeName(Lines) & IsEmpty(l)\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "G00;G01 X1;2LineListTrue");
+  // Without global members, the collection's members are not bare names.
+  EXPECT_FALSE(e.addCode("Option Explicit\nx = Count"));
+  EXPECT_FALSE(e.addCode("y = Lines(5)"));
+  EXPECT_EQ(e.lastError()->number, 9);
+  EXPECT_EQ(e.lastError()->source, "LineList");
+}
+}  // namespace
