@@ -38,12 +38,12 @@ Expectations expectationsOf(const std::string& text) {
       e.lines.emplace_back();
     } else if ((p = line.find("' expect error ")) != std::string::npos) {
       e.wantError = true;
-      std::istringstream spec(line.substr(p + 15));
-      spec >> e.number;
+      std::istringstream rest(line.substr(p + 15));
+      rest >> e.number;
       std::string at;
-      if (spec >> at && at == "at") {
+      if (rest >> at && at == "at") {
         char colon;
-        spec >> e.line >> colon >> e.column;
+        rest >> e.line >> colon >> e.column;
       }
     } else if ((p = line.find("' input: ")) != std::string::npos) {
       e.input += line.substr(p + 9) + "\n";
