@@ -403,3 +403,10 @@ TEST(HostObjects, DefaultMemberIndexedLetAndForEach) {
   EXPECT_EQ(e.lastError()->source, "LineList");
 }
 }  // namespace
+
+namespace {
+TEST(ResourceLimits, ReleasingDeeplyNestedArraysDoesNotRecurse) {
+  Engine e;
+  EXPECT_TRUE(e.addCode("a = Empty\nFor i = 1 To 500000\n  a = Array(a)\nNext\nn = UBound(a(0))\na = Empty"));
+}
+}  // namespace

@@ -104,6 +104,22 @@ ArrayData& Variant::arrayForWrite() {
   return *a_;
 }
 
+ArrayData::~ArrayData() {
+  // An array of arrays of arrays... would otherwise be freed by recursion as deep as the
+  // nesting: the nested values are moved out and freed here, one level at a time.
+  thread_local bool draining = false;
+  thread_local std::vector<Variant> graveyard;
+  for (auto& v : items)
+    if (v.isArray() || v.isObject()) graveyard.push_back(std::move(v));
+  if (draining) return;
+  draining = true;
+  while (!graveyard.empty()) {
+    Variant last = std::move(graveyard.back());
+    graveyard.pop_back();
+  }
+  draining = false;
+}
+
 std::size_t ArrayData::elementCount(const std::vector<std::int32_t>& upperBounds) {
   std::size_t n = 1;
   for (auto u : upperBounds) {

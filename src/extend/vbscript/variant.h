@@ -118,6 +118,10 @@ struct ArrayData {
   std::vector<Variant> items;
   bool fixed = false;
   int locks = 0;
+  ArrayData() = default;
+  ArrayData(const ArrayData&) = default;
+  ArrayData& operator=(const ArrayData&) = default;
+  ~ArrayData();  // releases nested arrays one after another, not recursively
   bool allocated() const { return !upper.empty(); }
   // Elements for these bounds; error 7 beyond kMaxElements.
   static constexpr std::size_t kMaxElements = std::size_t{1} << 24;
