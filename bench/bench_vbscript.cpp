@@ -53,6 +53,15 @@ void BM_ConcatLines(benchmark::State& state) {
 }
 BENCHMARK(BM_ConcatLines)->Arg(25000)->Arg(50000)->Arg(100000)->Arg(200000)->Unit(benchmark::kMillisecond)->Complexity();
 
+// Walking a 1 MB text character by character: Mid and Len read the string in place.
+void BM_ScanMegabyte(benchmark::State& state) {
+  runOnce(state,
+          "s = String(1048576, \"G\")\n"
+          "n = 0\n"
+          "For i = 1 To Len(s)\n  If Mid(s, i, 1) = \"G\" Then n = n + 1\nNext\n");
+}
+BENCHMARK(BM_ScanMegabyte)->Unit(benchmark::kMillisecond)->Iterations(1);
+
 // A million calls of a small Function.
 void BM_MillionCalls(benchmark::State& state) {
   runOnce(state,

@@ -10,7 +10,7 @@
 
 namespace lathwick::vbs::builtin {
 
-using Args = std::vector<Variant>;
+using Args = ArgList;
 
 inline bool given(const Args& a, size_t i) { return a.size() > i; }
 // Integer argument rounded half to even; Null -> 94.
@@ -21,6 +21,13 @@ inline std::int32_t intArg(Runtime& rt, const Variant& v) {
 inline std::string strArg(Runtime& rt, const Variant& v) {
   if (v.isNull()) raise(rt::kInvalidNull);
   return toStr(rt, v);
+}
+// The text of a value without copying it when it already is a String (`hold` keeps a
+// converted value alive).
+inline const std::string& textOf(Runtime& rt, const Variant& v, std::string& hold) {
+  if (v.isString()) return v.strValue();
+  hold = toStr(rt, v);
+  return hold;
 }
 // Compare mode argument: 0 binary, 1 or 2 text.
 bool textCompare(Runtime& rt, const Args& a, size_t i);

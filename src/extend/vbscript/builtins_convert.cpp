@@ -121,7 +121,7 @@ Variant fnTypeName(Runtime&, Args& a) {
   }
 }
 
-Variant fnArray(Runtime&, Args& a) { return Variant::array(ArrayData::ofValues(a)); }
+Variant fnArray(Runtime&, Args& a) { return Variant::array(ArrayData::ofValues(a.values())); }
 
 Variant bound(Runtime& rt, Args& a, bool upper) {
   if (!a[0].isArray()) raise(rt::kTypeMismatch);

@@ -11,14 +11,16 @@ namespace lathwick::vbs::builtin {
 namespace {
 Variant fnLen(Runtime& rt, Args& a) {
   if (a[0].isNull()) return Variant::null();
-  return Variant::longv(static_cast<std::int32_t>(toStr(rt, a[0]).size()));
+  std::string hold;
+  return Variant::longv(static_cast<std::int32_t>(textOf(rt, a[0], hold).size()));
 }
 
 Variant fnLeft(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[1]);
   if (n < 0) raise(rt::kInvalidCall);
   if (a[0].isNull()) return Variant::null();
-  std::string s = toStr(rt, a[0]);
+  std::string hold;
+  const std::string& s = textOf(rt, a[0], hold);
   return Variant::str(s.substr(0, static_cast<size_t>(n)));
 }
 
@@ -26,7 +28,8 @@ Variant fnRight(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[1]);
   if (n < 0) raise(rt::kInvalidCall);
   if (a[0].isNull()) return Variant::null();
-  std::string s = toStr(rt, a[0]);
+  std::string hold;
+  const std::string& s = textOf(rt, a[0], hold);
   const size_t k = std::min(s.size(), static_cast<size_t>(n));
   return Variant::str(s.substr(s.size() - k));
 }
@@ -40,7 +43,8 @@ Variant fnMid(Runtime& rt, Args& a) {
     if (len < 0) raise(rt::kInvalidCall);
   }
   if (a[0].isNull()) return Variant::null();
-  const std::string s = toStr(rt, a[0]);
+  std::string hold;
+  const std::string& s = textOf(rt, a[0], hold);
   if (static_cast<size_t>(start) > s.size()) return Variant::str("");
   return Variant::str(s.substr(static_cast<size_t>(start - 1), len < 0 ? std::string::npos : static_cast<size_t>(len)));
 }
@@ -62,7 +66,9 @@ Variant fnInStr(Runtime& rt, Args& a) {
   }
   const bool text = a.size() == 4 ? textCompare(rt, a, 3) : false;
   if (a[i].isNull() || a[i + 1].isNull()) return Variant::null();
-  const std::string s1 = toStr(rt, a[i]), s2 = toStr(rt, a[i + 1]);
+  std::string hold1, hold2;
+  const std::string& s1 = textOf(rt, a[i], hold1);
+  const std::string& s2 = textOf(rt, a[i + 1], hold2);
   if (static_cast<size_t>(start) > s1.size()) return Variant::longv(0);
   if (s2.empty()) return Variant::longv(start);
   const size_t p = findText(s1, s2, static_cast<size_t>(start - 1), text);
@@ -72,7 +78,9 @@ Variant fnInStr(Runtime& rt, Args& a) {
 Variant fnInStrRev(Runtime& rt, Args& a) {
   for (const auto& v : a)
     if (v.isNull()) raise(rt::kInvalidNull);
-  const std::string s1 = toStr(rt, a[0]), s2 = toStr(rt, a[1]);
+  std::string hold1, hold2;
+  const std::string& s1 = textOf(rt, a[0], hold1);
+  const std::string& s2 = textOf(rt, a[1], hold2);
   std::int32_t start = given(a, 2) ? intArg(rt, a[2]) : -1;
   const bool text = textCompare(rt, a, 3);
   if (start == 0 || start < -1) raise(rt::kInvalidCall);
@@ -232,7 +240,9 @@ Variant fnFilter(Runtime& rt, Args& a) {
 }
 
 Variant fnAsc(Runtime& rt, Args& a) {
-  const std::string s = strArg(rt, a[0]);
+  if (a[0].isNull()) raise(rt::kInvalidNull);
+  std::string hold;
+  const std::string& s = textOf(rt, a[0], hold);
   if (s.empty()) raise(rt::kInvalidCall);
   return Variant::integer(static_cast<unsigned char>(s[0]));
 }
@@ -308,8 +318,10 @@ Variant fnUnescape(Runtime& rt, Args& a) {
   for (size_t i = 0; i < s.size(); ++i) {
     std::int32_t v;
     if (s[i] == '%' && i + 1 < s.size() && (s[i + 1] == 'u' || s[i + 1] == 'U') && hexAt(i + 2, 4, v)) {
-      std::vector<Variant> code{Variant::longv(v)};
-      out += fnChrW(rt, code).strValue();
+      Variant code = Variant::longv(v);
+      const ArgRefs refs{&code};
+      ArgList list(refs);
+      out += fnChrW(rt, list).strValue();
       i += 5;
     } else if (s[i] == '%' && hexAt(i + 1, 2, v)) {
       out += static_cast<char>(v);

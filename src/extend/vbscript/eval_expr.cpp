@@ -172,12 +172,7 @@ Variant globalCall(Frame& f, const NameExpr& n, const ArgRefs& args, bool statem
     case GlobalEntry::Class: raise(rt::kTypeMismatch, n.name);
     case GlobalEntry::Undefined: break;
   }
-  if (e->builtin) {
-    std::vector<Variant> values;
-    values.reserve(args.size());
-    for (const Variant* a : args) values.push_back(*a);
-    return rt.callBuiltin(*e->builtin, values);
-  }
+  if (e->builtin) return rt.callBuiltin(*e->builtin, args);
   Object* o;
   int m;
   if (rt.hostGlobal(e, o, m)) {

@@ -140,10 +140,11 @@ Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef m
   return std::move(storage[0]);
 }
 
-Variant Runtime::callBuiltin(const Builtin& b, std::vector<Variant>& args) {
+Variant Runtime::callBuiltin(const Builtin& b, const ArgRefs& args) {
   const int n = static_cast<int>(args.size());
   if (n < b.minArgs || n > b.maxArgs) raise(rt::kWrongArgs, b.name);
-  return b.fn(*this, args);
+  ArgList list(args);
+  return b.fn(*this, list);
 }
 
 Variant Runtime::instantiate(const ClassPtr& cls) {

@@ -16,11 +16,38 @@
 
 namespace lathwick::vbs {
 
+// The arguments of a built-in function, read in place (a variable is not copied).
+class ArgList {
+ public:
+  explicit ArgList(const ArgRefs& refs) : refs_(refs) {}
+  size_t size() const { return refs_.size(); }
+  const Variant& operator[](size_t i) const { return *refs_[i]; }
+  struct Iter {
+    Variant* const* p;
+    const Variant& operator*() const { return **p; }
+    Iter& operator++() {
+      ++p;
+      return *this;
+    }
+    bool operator!=(const Iter& o) const { return p != o.p; }
+  };
+  Iter begin() const { return {refs_.data()}; }
+  Iter end() const { return {refs_.data() + refs_.size()}; }
+  std::vector<Variant> values() const {
+    std::vector<Variant> v;
+    for (const Variant* r : refs_) v.push_back(*r);
+    return v;
+  }
+
+ private:
+  const ArgRefs& refs_;
+};
+
 struct Builtin {
   const char* name;
   int minArgs;
   int maxArgs;
-  Variant (*fn)(Runtime& rt, std::vector<Variant>& args);
+  Variant (*fn)(Runtime& rt, ArgList& args);
 };
 const Builtin* findBuiltin(std::string_view name);
 
@@ -141,7 +168,7 @@ class Runtime {
 
   // ---- calls
   Variant callProcedure(const Procedure& p, const ArgRefs& args, ObjRef me);
-  Variant callBuiltin(const Builtin& b, std::vector<Variant>& args);
+  Variant callBuiltin(const Builtin& b, const ArgRefs& args);
   Variant instantiate(const ClassPtr& cls);
   // Creates the globals, procedures and classes a compiled unit declares (before it runs).
   void declareUnit(SourceUnit& u);
