@@ -53,6 +53,26 @@ Variant fnExecuteGlobal(Runtime& rt, Args& a) {
 }
 Variant fnEval(Runtime& rt, Args& a) { return rt.evaluate(strArg(rt, a[0])); }
 
+// GetRef: an object whose default member calls the named procedure.
+class ProcedureRef : public Object {
+ public:
+  explicit ProcedureRef(ProcPtr p) : proc_(std::move(p)) {}
+  int findMember(std::string_view) const override { return -1; }
+  int defaultMember() const override { return 0; }
+  Variant invoke(Runtime& rt, int, InvokeKind kind, const ArgRefs& args, bool) override {
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kNoAction);
+    return rt.callProcedure(*proc_, args, {});
+  }
+
+ private:
+  ProcPtr proc_;
+};
+Variant fnGetRef(Runtime& rt, Args& a) {
+  const GlobalEntry* e = rt.findEntry(strArg(rt, a[0]));
+  if (!e || e->kind != GlobalEntry::Procedure) raise(rt::kInvalidCall);
+  return Variant::object(makeObject<ProcedureRef>(e->proc));
+}
+
 // FormatNumber(x[, digits[, leadingZero[, negParens[, group]]]]) with "." and ",".
 std::string formatFixed(Runtime& rt, Args& a, double scale, const char* suffix) {
   if (a[0].isNull()) raise(rt::kTypeMismatch);
@@ -104,6 +124,7 @@ const Builtin kRows[] = {
     {"Execute", 1, 1, fnExecuteGlobal},
     {"ExecuteGlobal", 1, 1, fnExecuteGlobal},
     {"Eval", 1, 1, fnEval},
+    {"GetRef", 1, 1, fnGetRef},
     {"FormatNumber", 1, 5, fnFormatNumber},
     {"FormatPercent", 1, 5, fnFormatPercent},
 };
