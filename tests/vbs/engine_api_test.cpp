@@ -1,0 +1,412 @@
+// The host contract: named objects and their global members, code in pieces, procedure list,
+// running by name, reset, interrupt, UI callbacks and error records.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "extend/vbscript/engine.h"
+#include "platform/bytes.h"
+#include "platform/errors.h"
+
+using namespace lathwick::vbs;
+
+namespace {
+
+// A small stand-in for the editor's Application object.
+class FakeApp : public HostObject {
+ public:
+  std::string selText = "G01 X1";
+  std::vector<std::string> calls;
+  int findMember(std::string_view name) const override {
+    static const char* names[] = {"SelText", "Colorize", "LineText", "Fail", "Swap"};
+    for (int i = 0; i < 5; ++i)
+      if (lathwick::equalsIgnoreCase(name, names[i])) return i;
+    return -1;
+  }
+  std::string typeName() const override { return "Application"; }
+  Variant hostInvoke(int member, InvokeKind kind, std::vector<Variant>& args) override {
+    switch (member) {
+      case 0:
+        if (kind == InvokeKind::Let) {
+          selText = args.back().strValue();
+          return {};
+        }
+        return Variant::str(selText);
+      case 1: calls.push_back("Colorize"); return {};
+      case 2: return Variant::str("line " + std::to_string(args.at(0).intValue()));
+      case 3: throw lathwick::AppError(53, "File not found");
+      case 4: args.at(0) = Variant::str("swapped"); return {};
+    }
+    return {};
+  }
+};
+
+struct Fixture : ::testing::Test {
+  Engine engine;
+  ObjRef appRef = makeObject<FakeApp>();
+  FakeApp& app = static_cast<FakeApp&>(*appRef.get());
+  std::vector<std::string> shown;
+  void SetUp() override {
+    engine.addObject("Application", appRef, true);
+    UiCallbacks ui;
+    ui.msgBox = [this](const std::string& p, int, const std::string&) {
+      shown.push_back(p);
+      return 6;
+    };
+    ui.inputBox = [](const std::string&, const std::string&, const std::string& def) {
+      return std::optional<std::string>(def + "!");
+    };
+    engine.setUi(ui);
+  }
+  std::string eval(const std::string& expr) {
+    EXPECT_TRUE(engine.addCode("Function Probe__()\nProbe__ = " + expr + "\nEnd Function"));
+    auto r = engine.run("Probe__");
+    return r && r->isString() ? r->strValue() : (r ? std::to_string(r->intValue()) : "<error>");
+  }
+};
+
+TEST_F(Fixture, HostMembersAreGlobalNamesAndObjectMembers) {
+  ASSERT_TRUE(engine.addCode("SelText = UCase(Application.SelText) & \"!\"\nColorize\nApplication.Colorize"));
+  EXPECT_EQ(app.selText, "G01 X1!");
+  EXPECT_EQ(app.calls.size(), 2u);
+  EXPECT_EQ(eval("LineText(3)"), "line 3");
+  // A script name shadows a host global; a host global never shadows a built-in.
+  ASSERT_TRUE(engine.addCode("Function LineText(n)\nLineText = \"mine\"\nEnd Function"));
+  EXPECT_EQ(eval("LineText(3) & Len(\"ab\")"), "mine2");
+}
+
+TEST_F(Fixture, HostErrorsBecomeErrAndByRefOutputIsWrittenBack) {
+  ASSERT_TRUE(engine.addCode("On Error Resume Next\nFail\nn = Err.Number : d = Err.Description : s = Err.Source\n"
+                             "v = \"x\" : Swap v"));
+  EXPECT_EQ(eval("n & \"|\" & d & \"|\" & s & \"|\" & v"), "53|File not found|Application|swapped");
+}
+
+TEST_F(Fixture, CodePiecesShareOneNamespaceAndProceduresAreListedInOrder) {
+  ASSERT_TRUE(engine.addCode("Dim total\ntotal = 1\nSub V_Renumber()\nEnd Sub", "main.vbs"));
+  ASSERT_TRUE(engine.addCode("total = total + 1\nFunction Add(a, b)\nAdd = a + b + total\nEnd Function\n"
+                             "Sub LoadDoc(name)\nEnd Sub", "extra.vbs"));
+  ASSERT_TRUE(engine.addCode("Sub V_Renumber(x)\nEnd Sub", "late.vbs"));
+  const auto procs = engine.procedures();
+  ASSERT_EQ(procs.size(), 3u);
+  EXPECT_EQ(procs[0].name, "V_Renumber");
+  EXPECT_EQ(procs[0].paramCount, 1);  // the later definition replaced the first in place
+  EXPECT_EQ(procs[0].sourceName, "late.vbs");
+  EXPECT_EQ(procs[1].name, "Add");
+  EXPECT_TRUE(procs[1].isFunction);
+  EXPECT_EQ(procs[1].line, 2);
+  EXPECT_EQ(procs[2].name, "LoadDoc");
+  std::vector<Variant> args{Variant::integer(2), Variant::integer(3)};
+  auto r = engine.run("add", args);
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->intValue(), 7);
+}
+
+TEST_F(Fixture, RunReportsUnknownNamesAndWrongArity) {
+  EXPECT_FALSE(engine.run("Nope"));
+  EXPECT_EQ(engine.lastError()->number, 35);
+  EXPECT_EQ(engine.lastError()->message(), "Sub or Function not defined: 'Nope'");
+  ASSERT_TRUE(engine.addCode("Sub One(a)\nEnd Sub"));
+  EXPECT_FALSE(engine.run("One"));
+  EXPECT_EQ(engine.lastError()->number, 450);
+}
+
+TEST_F(Fixture, RunPassesArgumentsByReference) {
+  ASSERT_TRUE(engine.addCode("Sub Bump(x)\nx = x + 1\nEnd Sub"));
+  std::vector<Variant> args{Variant::integer(41)};
+  ASSERT_TRUE(engine.run("Bump", args));
+  EXPECT_EQ(args[0].intValue(), 42);
+}
+
+TEST_F(Fixture, CompileErrorDefinesNothingAndRecordsThePosition) {
+  std::vector<ErrorRecord> seen;
+  engine.setErrorHandler([&](const ErrorRecord& e) { seen.push_back(e); });
+  EXPECT_FALSE(engine.addCode("Sub Good()\nEnd Sub\nx = (1 +\n", "bad.vbs"));
+  ASSERT_EQ(seen.size(), 1u);
+  EXPECT_EQ(seen[0].source, "VBScript compilation error");
+  EXPECT_EQ(seen[0].sourceName, "bad.vbs");
+  EXPECT_EQ(seen[0].line, 3);
+  EXPECT_EQ(seen[0].column, 9);
+  EXPECT_EQ(seen[0].lineText, "x = (1 +");
+  EXPECT_TRUE(engine.procedures().empty());
+}
+
+TEST_F(Fixture, RuntimeErrorKeepsGlobalsAndTheEngineStaysUsable) {
+  EXPECT_FALSE(engine.addCode("g = 5\nSub S()\n  y = 1\n  y = y / 0\nEnd Sub\nS", "rt.vbs"));
+  const ErrorRecord& e = *engine.lastError();
+  EXPECT_EQ(e.number, 11);
+  EXPECT_EQ(e.source, "VBScript runtime error");
+  EXPECT_EQ(e.line, 4);
+  EXPECT_EQ(e.column, 3);
+  EXPECT_EQ(e.lineText, "  y = y / 0");
+  EXPECT_EQ(eval("g"), "5");
+}
+
+TEST_F(Fixture, ResetDropsCodeStateAndObjects) {
+  ASSERT_TRUE(engine.addCode("Const K = 1\nDim v\nv = 3\nSub S()\nEnd Sub"));
+  engine.reset();
+  EXPECT_TRUE(engine.procedures().empty());
+  ASSERT_TRUE(engine.addCode("Const K = 2\nFunction Probe()\nProbe = IsEmpty(v) & K\nEnd Function"));
+  auto r = engine.run("Probe");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "True2");
+  // Application is gone until the host registers it again.
+  EXPECT_FALSE(engine.addCode("Option Explicit\nx = Application.SelText"));
+}
+
+TEST_F(Fixture, MsgBoxAndInputBoxGoToTheHost) {
+  ASSERT_TRUE(engine.addCode("r = MsgBox(\"Sure?\", vbYesNo)\nMsgBox \"done \" & r\ns = InputBox(\"Name\", \"T\", \"abc\")"));
+  EXPECT_EQ(shown, (std::vector<std::string>{"Sure?", "done 6"}));
+  EXPECT_EQ(eval("s"), "abc!");
+}
+
+TEST_F(Fixture, InterruptStopsARunawayLoopEvenUnderResumeNext) {
+  engine.setInterruptError(kObjectError + 1, "Macro cancelled");
+  std::thread stopper([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    engine.interrupt();
+  });
+  const bool ok = engine.addCode("On Error Resume Next\nDo\nn = n + 1\nLoop");
+  stopper.join();
+  EXPECT_FALSE(ok);
+  EXPECT_EQ(engine.lastError()->number, kObjectError + 1);
+  EXPECT_EQ(engine.lastError()->description, "Macro cancelled");
+  EXPECT_TRUE(engine.addCode("x = 1"));  // usable again
+}
+
+TEST_F(Fixture, InterruptFromACallbackStopsAtTheNextCall) {
+  UiCallbacks ui;
+  ui.msgBox = [this](const std::string&, int, const std::string&) {
+    engine.interrupt();
+    return 1;
+  };
+  engine.setUi(ui);
+  EXPECT_FALSE(engine.addCode("MsgBox \"stop me\"\nSet marker = Nothing\nmarker = 1"));
+  EXPECT_EQ(engine.lastError()->line, 1);
+}
+
+// ---- malformed input never crashes or hangs ---------------------------------------------------
+
+std::optional<ErrorRecord> compileOnly(const std::string& text) {
+  Engine e;
+  if (e.addCode(text)) return std::nullopt;
+  return e.lastError();
+}
+
+TEST(MalformedScripts, UnterminatedStringAndGarbageAreCompileErrors) {
+  auto e = compileOnly("x = \"abc\ny = 1");
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->number, 1033);
+  std::string garbage;
+  for (int i = 0; i < 4096; ++i) garbage += static_cast<char>((i * 7919) % 256);
+  e = compileOnly(garbage);
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->source, "VBScript compilation error");
+  e = compileOnly(std::string("x = 1\0y", 7));
+  ASSERT_TRUE(e);
+  EXPECT_EQ(e->number, 1032);
+}
+
+TEST(MalformedScripts, DeepNestingIsACompileErrorNotACrash) {
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, '(') + "1" + std::string(100000, ')')));
+  std::string ifs;
+  for (int i = 0; i < 50000; ++i) ifs += "If True Then\n";
+  EXPECT_TRUE(compileOnly(ifs));
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, '-') + "1"));
+  EXPECT_TRUE(compileOnly("x = " + std::string(100000, 'F') + "(((("));
+  // Moderate nesting is fine.
+  EXPECT_FALSE(compileOnly("x = " + std::string(50, '(') + "1" + std::string(50, ')')));
+}
+
+TEST(MalformedScripts, MegabyteLineCompilesOrFailsCleanly) {
+  std::string line = "x = 0";
+  while (line.size() < 1024 * 1024) line += " : x = x + 1";
+  Engine e;
+  EXPECT_TRUE(e.addCode(line));
+  // One expression of a quarter million operators is refused, not evaluated recursively.
+  std::string chain = "x = 0";
+  while (chain.size() < 1024 * 1024) chain += " + 1";
+  auto tooLong = compileOnly(chain);
+  ASSERT_TRUE(tooLong);
+  EXPECT_EQ(tooLong->number, 1001);
+  std::string junk(1024 * 1024, 'a');
+  auto err = compileOnly(junk);
+  ASSERT_TRUE(err);
+  EXPECT_EQ(err->number, 1030);  // identifier too long
+  std::string unterminated = "x = \"" + std::string(1024 * 1024, 'z');
+  err = compileOnly(unterminated);
+  ASSERT_TRUE(err);
+  EXPECT_EQ(err->number, 1033);
+}
+
+}  // namespace
+
+namespace {
+TEST(ResourceLimits, HugeArraysAndStringsAreErrorsNotCrashes) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("On Error Resume Next\n"
+                        "ReDim a(65535, 65535, 65535, 65535)\nn1 = Err.Number : Err.Clear\n"
+                        "ReDim b(2000000000)\nn2 = Err.Number : Err.Clear\n"
+                        "s = Space(2000000000)\nn3 = Err.Number : Err.Clear\n"
+                        "Function R()\nR = n1 & \" \" & n2 & \" \" & n3\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "7 7 14");
+}
+
+TEST(ResourceLimits, ReleasingALongChainOfObjectsDoesNotRecurse) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Class Node\nPublic NextNode\nEnd Class\n"
+                        "Set head = Nothing\n"
+                        "For i = 1 To 300000\nSet n = New Node\nSet n.NextNode = head\nSet head = n\nNext\n"
+                        "Set n = Nothing\nSet head = Nothing"));
+  ASSERT_TRUE(e.addCode("Set head2 = New Node\nSet cur = head2\n"
+                        "For i = 1 To 300000\nSet cur.NextNode = New Node\nSet cur = cur.NextNode\nNext\nSet cur = Nothing"));
+  e.reset();  // releases the second chain from the engine's side
+}
+}  // namespace
+
+namespace {
+// A host whose methods re-enter the engine, as LoadScriptFile and a save of main.vbs do.
+class ReentrantHost : public HostObject {
+ public:
+  Engine* engine = nullptr;
+  int findMember(std::string_view name) const override {
+    if (lathwick::equalsIgnoreCase(name, "LoadScript")) return 0;
+    if (lathwick::equalsIgnoreCase(name, "ResetAll")) return 1;
+    return -1;
+  }
+  Variant hostInvoke(int member, InvokeKind, std::vector<Variant>& args) override {
+    if (member == 0) return Variant::boolean(engine->addCode(args.at(0).strValue(), "loaded.vbs"));
+    engine->reset();
+    return {};
+  }
+};
+
+TEST(Reentrancy, ScriptsCanAddCodeAndResetWhileRunning) {
+  Engine e;
+  ObjRef host = makeObject<ReentrantHost>();
+  static_cast<ReentrantHost*>(host.get())->engine = &e;
+  e.addObject("App", host, true);
+  ASSERT_TRUE(e.addCode("ok = LoadScript(\"Function Helper()\" & vbCrLf & \"Helper = 41\" & vbCrLf & \"End Function\")\n"
+                        "Function Probe()\nProbe = Helper() + 1\nEnd Function"));
+  auto r = e.run("Probe");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->intValue(), 42);
+  // A failing nested load reports its own error and the caller carries on.
+  ASSERT_TRUE(e.addCode("bad = LoadScript(\"x = (\")\nFunction WasBad()\nWasBad = Not bad\nEnd Function"));
+  r = e.run("WasBad");
+  ASSERT_TRUE(r);
+  EXPECT_TRUE(r->boolValue());
+  // Resetting under a running procedure drops everything without pulling the code away.
+  ASSERT_TRUE(e.addCode("Sub Wipe()\nDim local\nlocal = 1\nResetAll\nlocal = local + 1\nEnd Sub"));
+  EXPECT_TRUE(e.run("Wipe").has_value());
+  EXPECT_TRUE(e.procedures().empty());
+  EXPECT_FALSE(e.run("Wipe").has_value());
+}
+}  // namespace
+
+namespace {
+TEST(ErrorRecords, NameRelatedErrorsAppendTheNameAndOptionExplicitIsPerUnit) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Option Explicit\nDim a\na = 1"));
+  ASSERT_TRUE(e.addCode("b = 2"));  // a later piece does not inherit Option Explicit
+  EXPECT_FALSE(e.addCode("Option Explicit\nc = a + b\n"));
+  const ErrorRecord& r = *e.lastError();
+  EXPECT_EQ(r.number, 500);
+  EXPECT_EQ(r.description, "Variable is undefined");
+  EXPECT_EQ(r.message(), "Variable is undefined: 'c'");
+  EXPECT_EQ(r.line, 2);
+  EXPECT_EQ(r.column, 1);
+  EXPECT_FALSE(e.addCode("x = 1\nUnknownProc 3"));
+  EXPECT_EQ(e.lastError()->message(), "Type mismatch: 'UnknownProc'");
+}
+}  // namespace
+
+namespace {
+TEST(RegExpEngine, LongSubjectsNeitherExhaustTheStackNorStallOnHopelessSearches) {
+  Engine e;
+  ASSERT_TRUE(e.addCode("Set re = New RegExp\nre.Global = True\ns = String(300000, \"a\") & \";\"\n"
+                        "re.Pattern = \"(a|b)*;\"\nn1 = re.Execute(s).Count\n"
+                        "re.Pattern = \"a*\"\nn2 = re.Execute(s).Count\n"
+                        "re.Pattern = \"[^;]*Q\"\nn3 = re.Execute(s).Count\n"
+                        "Function R()\nR = n1 & \" \" & n2 & \" \" & n3\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "1 3 0");
+}
+}  // namespace
+
+namespace {
+TEST(Interrupt, ThePollCallbackLetsASingleThreadedHostStopAMacro) {
+  Engine e;
+  int polls = 0;
+  UiCallbacks ui;
+  ui.poll = [&] {
+    if (++polls == 3) e.interrupt();
+  };
+  e.setUi(ui);
+  EXPECT_FALSE(e.addCode("Sub Spin()\nSpin2\nEnd Sub\nSub Spin2()\nEnd Sub\nDo\nSpin\nLoop"));
+  EXPECT_EQ(polls, 3);
+  EXPECT_EQ(e.lastError()->number, kObjectError + 1);
+  EXPECT_EQ(e.lastError()->description, "Script interrupted");
+}
+}  // namespace
+
+namespace {
+// A host collection: default Item(i) with get and let, Count, Add, and For Each.
+class FakeList : public HostObject {
+ public:
+  std::vector<Variant> items;
+  std::string typeName() const override { return "LineList"; }
+  int findMember(std::string_view name) const override {
+    static const char* names[] = {"Item", "Count", "Add"};
+    for (int i = 0; i < 3; ++i)
+      if (lathwick::equalsIgnoreCase(name, names[i])) return i;
+    return -1;
+  }
+  int defaultMember() const override { return 0; }
+  bool enumerate(Runtime&, std::vector<Variant>& out) override {
+    out = items;
+    return true;
+  }
+  Variant hostInvoke(int member, InvokeKind kind, std::vector<Variant>& args) override {
+    switch (member) {
+      case 0: {
+        const auto i = static_cast<size_t>(args.at(0).intValue());
+        if (i >= items.size()) throw ScriptError(9, errorText(9), "LineList");
+        if (kind == InvokeKind::Let) {
+          items[i] = args.at(1);
+          return {};
+        }
+        return items[i];
+      }
+      case 1: return Variant::longv(static_cast<std::int32_t>(items.size()));
+      default: items.push_back(args.at(0)); return {};
+    }
+  }
+};
+
+TEST(HostObjects, DefaultMemberIndexedLetAndForEach) {
+  Engine e;
+  ObjRef list = makeObject<FakeList>();
+  e.addObject("Lines", list, false);
+  ASSERT_TRUE(e.addCode("Lines.Add \"G00\"\nLines.Add \"G01\"\nLines(1) = Lines(1) & \" X1\"\n"
+                        "For Each l In Lines\n  s = s & l & \";\"\nNext\n"
+                        "Function R()\nR = s & Lines.Count & TypeName(Lines) & IsEmpty(l)\nEnd Function"));
+  auto r = e.run("R");
+  ASSERT_TRUE(r);
+  EXPECT_EQ(r->strValue(), "G00;G01 X1;2LineListTrue");
+  // Without global members, the collection's members are not bare names.
+  EXPECT_FALSE(e.addCode("Option Explicit\nx = Count"));
+  EXPECT_FALSE(e.addCode("y = Lines(5)"));
+  EXPECT_EQ(e.lastError()->number, 9);
+  EXPECT_EQ(e.lastError()->source, "LineList");
+}
+}  // namespace
+
+namespace {
+TEST(ResourceLimits, ReleasingDeeplyNestedArraysDoesNotRecurse) {
+  Engine e;
+  EXPECT_TRUE(e.addCode("a = Empty\nFor i = 1 To 500000\n  a = Array(a)\nNext\nn = UBound(a(0))\na = Empty"));
+}
+}  // namespace

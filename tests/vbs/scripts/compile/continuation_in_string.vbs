@@ -1,0 +1,2 @@
+x = "abc _
+def"   ' expect error 1033 at 1:5

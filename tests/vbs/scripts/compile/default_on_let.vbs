@@ -1,0 +1,4 @@
+Class C
+  Public Default Property Let P(v)   ' expect error 1058
+  End Property
+End Class

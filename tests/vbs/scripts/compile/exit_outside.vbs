@@ -1,0 +1,1 @@
+Exit For   ' expect error 1039 at 1:6

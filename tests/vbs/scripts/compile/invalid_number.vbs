@@ -1,0 +1,1 @@
+x = 1e999   ' expect error 1031 at 1:5

@@ -1,0 +1,1 @@
+Loop   ' expect error 1038 at 1:1

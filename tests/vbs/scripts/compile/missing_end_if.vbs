@@ -1,0 +1,3 @@
+If True Then
+  x = 1
+' expect error 1014 at 4:1

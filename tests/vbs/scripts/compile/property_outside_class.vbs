@@ -1,0 +1,2 @@
+Property Get P()   ' expect error 1048 at 1:1
+End Property

@@ -1,0 +1,2 @@
+x = 1
+Next   ' expect error 1055 at 2:1

@@ -1,0 +1,2 @@
+With 5   ' expect error 424
+End With

@@ -1,0 +1,3 @@
+Sub S(a, b)
+End Sub
+S 1   ' expect error 450 at 3:1

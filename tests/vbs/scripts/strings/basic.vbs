@@ -1,0 +1,15 @@
+WriteLine Len("hello") & Len(12345) & Len(Empty)      ' expect: 550
+WriteLine IsNull(Len(Null))                           ' expect: True
+WriteLine Left("hello", 2) & "|" & Right("hello", 3) & "|" & Left("hi", 10)   ' expect: he|llo|hi
+WriteLine Mid("hello", 2, 3) & "|" & Mid("hello", 4) & "|" & Mid("hello", 9) & "|"   ' expect: ell|lo||
+WriteLine Left("hello", 1.5)                          ' expect: he
+WriteLine "[" & Space(2.5) & "]"                      ' expect: [  ]
+WriteLine Chr(119.5)                                  ' expect: x
+WriteLine UCase("abc") & LCase("DEF")                 ' expect: ABCdef
+WriteLine "[" & Trim("  a b  ") & "][" & LTrim("  a") & "][" & RTrim("a  ") & "]"   ' expect: [a b][a][a]
+WriteLine Len(Trim(vbTab & "x" & vbTab))              ' expect: 3
+WriteLine String(3, "ab") & String(2, 65)             ' expect: aaaAA
+WriteLine StrReverse("abc")                           ' expect: cba
+WriteLine Asc("A") & " " & Chr(66) & " " & AscW("a") ' expect: 65 B 97
+WriteLine Len(vbCrLf) & Len(vbNewLine) & Asc(vbNewLine)   ' expect: 2213
+WriteLine vbNullString = ""                           ' expect: True
