@@ -9,6 +9,7 @@
 #include "frame_fixture.h"
 #include "platform/gui/rich_text_box.h"
 #include "shell/gui/status_panels.h"
+#include "shell/gui/mdi_form.h"
 
 #include <QTimer>
 
@@ -89,7 +90,7 @@ TEST_F(ColorizeTest, BareLineFeedsAreSentToTheJunkFilter) {
   EXPECT_FALSE(e->record().changed);
 }
 
-TEST_F(ColorizeTest, EscCancelsALongRunAndLeavesTheDocumentAsItWas) {
+TEST_F(ColorizeTest, EscOrAClickOnTheMessagePanelCancelsALongRunAndLeavesTheDocument) {
   const std::string text = program(5000);
   start();
   gui::frmEditor* e = openFile(files.write("long.nc", text));
@@ -112,6 +113,13 @@ TEST_F(ColorizeTest, EscCancelsALongRunAndLeavesTheDocumentAsItWas) {
   EXPECT_FALSE(e->FileUndoable());
   EXPECT_FALSE(frame->passRunning());
   EXPECT_EQ(frame->statusPanels().text("Stat"), kReadyStatus);
+  // A click on the status bar's message panel stops a run too.
+  dialogs.messages.clear();
+  QTimer::singleShot(0, frame.get(), [&] { lathwick::test::mouseClick(frame->statusPanels().panel("Stat"), Qt::LeftButton); });
+  trigger("mnuModal", 1);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, kCancelMessage);
+  EXPECT_FALSE(e->FileUndoable());
   // The next run starts with the flag cleared and completes.
   trigger("mnuModal", 0);
   EXPECT_TRUE(e->FileUndoable());

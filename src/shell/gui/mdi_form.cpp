@@ -61,6 +61,8 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   buildToolbar();
   panels_ = new StatusPanels(statusBar());
   connect(panels_, &StatusPanels::bookmarkPressed, this, &MDIForm1::onBookmark);
+  // A click on the message panel stops a running pass, as Esc does.
+  connect(panels_, &StatusPanels::messagePressed, this, [] { requestCancel(); });
   connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
   qApp->installEventFilter(this);
   showMenusOf(nullptr);

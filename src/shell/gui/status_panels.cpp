@@ -15,7 +15,8 @@ void StatusPanel::mousePressEvent(QMouseEvent* event) {
 
 StatusPanels::StatusPanels(QStatusBar* bar) : QObject(bar), clock_(new QTimer(this)) {
   bar->setSizeGripEnabled(true);
-  add("Stat", QString::fromLatin1(kHelpPrompt), 2540, true);
+  StatusPanel* message = add("Stat", QString::fromLatin1(kHelpPrompt), 2540, true);
+  connect(message, &StatusPanel::pressed, this, [this](Qt::MouseButton) { emit messagePressed(); });
   add("Range", QStringLiteral("Line"), 656);
   add("Date", QString(), 1100);
   add("Time", QString(), 800);

@@ -47,6 +47,7 @@ class StatusPanels : public QObject {
 
  signals:
   void bookmarkPressed(int number, Qt::MouseButton button);
+  void messagePressed();  // a click on the message panel
 
  private:
   StatusPanel* add(const std::string& key, const QString& text, int twips, bool stretch = false);
