@@ -6,10 +6,12 @@
 
 #include "document/line_ending_checks.h"
 #include "marker_frame.h"
+#include "recording_monitor.h"
 #include "support/temp_dir.h"
 #include "transform/rich_pass.h"
 
 using namespace lathwick::transform;
+using lathwick::test::RecordingMonitor;
 using lathwick::test::TempDir;
 
 namespace {
@@ -30,21 +32,6 @@ class UpperCase : public RichLineTransform {
     return changed ? 1 : 0;
   }
   std::vector<std::string> raws;
-};
-
-class RecordingMonitor : public lathwick::PassMonitor {
- public:
-  void progressStart(long total) override { starts.push_back(total); }
-  void progressValue(long v) override { values.push_back(v); }
-  void progressEnd() override { ++ends; }
-  void pumpEvents() override { ++pumps; }
-  bool cancelRequested() const override { return cancelAfter > 0 && pumps >= cancelAfter; }
-  void clearCancel() override { ++clears; }
-  void statusText(const char* t) override { statuses.emplace_back(t); }
-  std::vector<long> starts, values;
-  int ends = 0, clears = 0;
-  long pumps = 0, cancelAfter = 0;
-  std::vector<std::string> statuses;
 };
 
 RichPassSettings settingsFor(long lines = -1) {
@@ -144,7 +131,7 @@ TEST(RichPass, CancelStopsAfterTheLineInHandAndWritesNothing) {
   TempDir dir;
   UpperCase t;
   RecordingMonitor m;
-  m.cancelAfter = 3;
+  m.cancelAfterPumps = 3;
   const auto out = dir.write("out.rtf", "previous");
   const auto r = pass(dir.write("a.txt", lines(10)), out, t, m);
   EXPECT_EQ(r.outcome, PassOutcome::Cancelled);
