@@ -5,34 +5,15 @@
 #include "format/bundled_schemes.h"
 #include "format/colorizer.h"
 #include "format/pass_frame.h"
+#include "recording_monitor.h"
 #include "support/temp_dir.h"
 
 using namespace lathwick;
 using lathwick::test::readBytes;
+using lathwick::test::RecordingMonitor;
 using lathwick::test::TempDir;
 
 namespace {
-
-class RecordingMonitor : public PassMonitor {
- public:
-  long started = -1;
-  std::vector<long> values;
-  int pumps = 0;
-  int ends = 0;
-  int clears = 0;
-  std::vector<std::string> statuses;
-  long cancelAfterReports = -1;  // cancel once this many values were reported
-
-  void progressStart(long total) override { started = total; }
-  void progressValue(long v) override { values.push_back(v); }
-  void progressEnd() override { ++ends; }
-  void pumpEvents() override { ++pumps; }
-  bool cancelRequested() const override {
-    return cancelAfterReports >= 0 && static_cast<long>(values.size()) >= cancelAfterReports;
-  }
-  void clearCancel() override { ++clears; }
-  void statusText(const char* t) override { statuses.emplace_back(t); }
-};
 
 std::string program(int lines) {
   std::string text;
@@ -94,7 +75,7 @@ TEST(ColorizerRun, LongFilesShowProgressAboutAHundredTimes) {
   RecordingMonitor m;
   const ColorizeResult r = colorizeFile(scheme(), ColorizeView::Codes, in, dir.file("out.rtf"), m);
   EXPECT_EQ(r.outcome, ColorizeOutcome::Done);
-  EXPECT_EQ(m.started, 250);
+  EXPECT_EQ(m.starts, std::vector<long>{250});
   ASSERT_EQ(m.values.size(), 125u);  // step 250 / 100 = 2
   EXPECT_EQ(m.values.front(), 2);
   EXPECT_EQ(m.values.back(), 250);
@@ -107,7 +88,7 @@ TEST(ColorizerRun, FilesOf101To200LinesReportEveryLineWithoutTheForm) {
   TempDir dir;
   RecordingMonitor m;
   colorizeFile(scheme(), ColorizeView::Modes, dir.write("in.txt", program(150)), dir.file("out.rtf"), m);
-  EXPECT_EQ(m.started, -1);
+  EXPECT_TRUE(m.starts.empty());
   EXPECT_EQ(m.values.size(), 150u);
   EXPECT_EQ(m.ends, 0);
   RecordingMonitor small;

@@ -22,15 +22,13 @@ TEST(Paths, FileNameOfAndPathOfTrimInPlace) {
 }
 
 TEST(Paths, ChangeExtensionOverwritesOnlyAThreeLetterExtension) {
-  std::string a = "a.txt", b = "a.nc", c = "x.html", d = "ab";
-  ChangeExtension(a, "RTF");
-  ChangeExtension(b, "RTF");
-  ChangeExtension(c, "RTF");
-  ChangeExtension(d, "RTF");
-  EXPECT_EQ(a, "a.RTF");
-  EXPECT_EQ(b, "a.nc.RTF");
-  EXPECT_EQ(c, "x.html.RTF");
-  EXPECT_EQ(d, "ab.RTF");
+  const std::pair<const char*, const char*> cases[] = {
+      {"a.txt", "a.RTF"}, {"a.nc", "a.nc.RTF"}, {"x.html", "x.html.RTF"}, {"ab", "ab.RTF"}};
+  for (const auto& [in, want] : cases) {
+    std::string name = in;
+    ChangeExtension(name, "RTF");
+    EXPECT_EQ(name, want);
+  }
 }
 
 TEST(Paths, ShortenPathSearchesFromLengthMinusMaximumPlusSix) {

@@ -26,6 +26,17 @@ Loaded reload(const std::string& rtf, const StyleFormat& defaultFormat) {
   return l;
 }
 
+// Every character but a line break (which carries no format of its own) has the same format.
+void expectSameFormats(const std::string& text, const StyleTable& wantTable, const std::string& wantStyles,
+                       const StyleTable& gotTable, const std::string& gotStyles) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' || text[i] == '\n') continue;
+    EXPECT_EQ(gotTable.format(static_cast<unsigned char>(gotStyles[i])),
+              wantTable.format(static_cast<unsigned char>(wantStyles[i])))
+        << "at " << i;
+  }
+}
+
 }  // namespace
 
 TEST(RtfRoundTrip, TextFormatsStrikeoutsAndIndentComeBack) {
@@ -44,12 +55,7 @@ TEST(RtfRoundTrip, TextFormatsStrikeoutsAndIndentComeBack) {
   EXPECT_EQ(back.doc.text, text);
   EXPECT_EQ(back.doc.indentTwips, 400);
   EXPECT_EQ(back.styling.strikeouts, strikes);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\r' || text[i] == '\n') continue;  // a break carries no format of its own
-    const auto& want = table.format(static_cast<unsigned char>(styles[i]));
-    const auto& got = back.table.format(static_cast<unsigned char>(back.styling.styles[i]));
-    EXPECT_EQ(got, want) << "at " << i;
-  }
+  expectSameFormats(text, table, styles, back.table, back.styling.styles);
 }
 
 TEST(RtfRoundTrip, EveryByteOfTheTextSurvives) {
@@ -79,12 +85,7 @@ TEST(RtfRoundTrip, ColorizerOutputSurvivesAReadWriteRead) {
   EXPECT_EQ(second.doc.text, first.text);
   EXPECT_EQ(second.doc.indentTwips, first.indentTwips);
   EXPECT_EQ(second.styling.strikeouts, styling.strikeouts);
-  for (std::size_t i = 0; i < first.text.size(); ++i) {
-    if (first.text[i] == '\r' || first.text[i] == '\n') continue;
-    EXPECT_EQ(second.table.format(static_cast<unsigned char>(second.styling.styles[i])),
-              table.format(static_cast<unsigned char>(styling.styles[i])))
-        << "at " << i;
-  }
+  expectSameFormats(first.text, table, styling.styles, second.table, second.styling.styles);
 }
 
 TEST(RtfRoundTrip, UnformattedTextTakesTheDefaultStyle) {

@@ -73,8 +73,6 @@ TEST(SettingsTable, FreshStoreGivesTheDocumentedDefaults) {
   const auto n = lathwick::readNumberingSettings(s);
   EXPECT_EQ(n.character + n.increment + n.skipLines + n.start, "N1%100");
   EXPECT_EQ(n.method, 2);
-  EXPECT_EQ(lathwick::settingDefault("Operate", "Address"), "XYZ");
-  EXPECT_EQ(lathwick::settingDefault("Startup", "PrintProgram"), "Wordpad");
 }
 
 TEST(SettingsTable, FrameSettingsRoundTripAsWordsAndNumbers) {

@@ -2,6 +2,7 @@
 // markers, and the numeric picture.
 #include <gtest/gtest.h>
 
+#include "marker_frame.h"
 #include "platform/errors.h"
 #include "support/temp_dir.h"
 #include "transform/numeric_picture.h"
@@ -15,16 +16,7 @@
 using namespace lathwick::transform;
 
 namespace {
-RichTextFrame frame() {
-  RichTextFrame f;
-  f.header = "H";
-  f.trailer = "T";
-  f.markStart = "<";
-  f.markEnd = ">";
-  f.commentOpen = "(";
-  f.commentClose = ")";
-  return f;
-}
+RichTextFrame frame() { return lathwick::test::markerFrame("H", "T"); }
 
 std::string operated(const std::string& raw, const std::string& addresses, char op, double operand,
                      const std::string& format = "##0.0###", bool exclude = false, long* count = nullptr) {

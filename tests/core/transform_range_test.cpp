@@ -32,31 +32,26 @@ TEST(OperationRange, NoSelectionIsAllLines) {
 }
 
 TEST(OperationRange, SelectionGivesLinesAndLabel) {
-  // From inside line 2 to inside line 3.
-  const auto r = operationRange(static_cast<long>(kDoc.size()), 9, 10, linesOf(kDoc));
-  EXPECT_FALSE(r.allLines);
-  EXPECT_EQ(r.lines.first, 2);
-  EXPECT_EQ(r.lines.last, 3);
-  EXPECT_EQ(r.firstChar, 9);
-  EXPECT_EQ(r.lastChar, 19);
-  EXPECT_EQ(r.label, "Range= Line 2 to 3");
-  EXPECT_FALSE(r.lines.contains(1));
-  EXPECT_FALSE(r.lines.contains(4));
-}
-
-TEST(OperationRange, SelectionEndingJustAfterALineBreakKeepsItsLastLine) {
-  // Lines 1 and 2 selected whole, break included: the selection ends at position 16.
-  const auto r = operationRange(static_cast<long>(kDoc.size()), 0, 16, linesOf(kDoc));
-  EXPECT_EQ(r.lines.first, 1);
-  EXPECT_EQ(r.lines.last, 2);
-  EXPECT_EQ(r.label, "Range= Line 1 to 2");
-}
-
-TEST(OperationRange, RenumberAndOperateKeepAOneLineSelectionAsARange) {
-  const auto r = operationRange(static_cast<long>(kDoc.size()), 9, 3, linesOf(kDoc));
-  EXPECT_EQ(r.lines.first, 2);
-  EXPECT_EQ(r.lines.last, 2);
-  EXPECT_EQ(r.label, "Range= Line 2 to 2");
+  const struct {
+    long start, length, first, last;
+    const char* label;
+  } cases[] = {
+      {9, 10, 2, 3, "Range= Line 2 to 3"},  // from inside line 2 to inside line 3
+      {0, 16, 1, 2, "Range= Line 1 to 2"},  // lines 1 and 2 whole, break included: line 3 stays out
+      {9, 3, 2, 2, "Range= Line 2 to 2"},   // one line stays a range for renumber and operate
+  };
+  for (const auto& c : cases) {
+    const auto r = operationRange(static_cast<long>(kDoc.size()), c.start, c.length, linesOf(kDoc));
+    SCOPED_TRACE(c.start);
+    EXPECT_FALSE(r.allLines);
+    EXPECT_EQ(r.lines.first, c.first);
+    EXPECT_EQ(r.lines.last, c.last);
+    EXPECT_EQ(r.firstChar, c.start);
+    EXPECT_EQ(r.lastChar, c.start + c.length);
+    EXPECT_EQ(r.label, c.label);
+    EXPECT_FALSE(r.lines.contains(c.first - 1));
+    EXPECT_FALSE(r.lines.contains(c.last + 1));
+  }
 }
 
 TEST(OperationRange, SearchTakesAOneLineSelectionAsTheFindTextWithoutControlCharacters) {

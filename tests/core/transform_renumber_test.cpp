@@ -26,17 +26,10 @@ Lines renumbered(Lines lines, RenumberMethod method, std::int32_t start = 100, s
 const Lines kFive = {"%", "O1000", "(SETUP)", "G00 X0", "N5 G01 X1"};
 }  // namespace
 
-TEST(Renumber, AllNonCommentLinesOnTheFiveLineProgram) {
+TEST(Renumber, TheThreeMethodsOnTheFiveLineProgram) {
   EXPECT_EQ(renumbered(kFive, RenumberMethod::NonCommentLines),
             (Lines{"%", "N100O1000", "(SETUP)", "N110G00 X0", "N120 G01 X1"}));
-}
-
-TEST(Renumber, ExistingNumbersOnlyChangesOnlyNumberedBlocks) {
-  EXPECT_EQ(renumbered(kFive, RenumberMethod::ExistingNumbers),
-            (Lines{"%", "O1000", "(SETUP)", "G00 X0", "N100 G01 X1"}));
-}
-
-TEST(Renumber, AllLinesNumbersCommentsToo) {
+  EXPECT_EQ(renumbered(kFive, RenumberMethod::ExistingNumbers), (Lines{"%", "O1000", "(SETUP)", "G00 X0", "N100 G01 X1"}));
   EXPECT_EQ(renumbered(kFive, RenumberMethod::AllLines),
             (Lines{"%", "N100O1000", "N110(SETUP)", "N120G00 X0", "N130 G01 X1"}));
 }

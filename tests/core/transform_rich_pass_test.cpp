@@ -5,25 +5,19 @@
 #include <vector>
 
 #include "document/line_ending_checks.h"
+#include "marker_frame.h"
+#include "recording_monitor.h"
 #include "support/temp_dir.h"
 #include "transform/rich_pass.h"
 
 using namespace lathwick::transform;
+using lathwick::test::RecordingMonitor;
 using lathwick::test::TempDir;
 
 namespace {
 
-RichTextFrame testFrame() {
-  RichTextFrame f;
-  f.header = "{\\rtf1 H}   ";
-  f.trailer = "\\par}  ";
-  f.indentTwips = 400;
-  f.markStart = "<";
-  f.markEnd = ">";
-  f.commentOpen = "(";
-  f.commentClose = ")";
-  return f;
-}
+// Trailing blanks on header and trailer, which the pass must drop.
+RichTextFrame testFrame() { return lathwick::test::markerFrame("{\\rtf1 H}   ", "\\par}  ", 400); }
 
 // Upper-cases the line and counts one change per line that had a lower-case letter, marking
 // its first character.
@@ -38,21 +32,6 @@ class UpperCase : public RichLineTransform {
     return changed ? 1 : 0;
   }
   std::vector<std::string> raws;
-};
-
-class RecordingMonitor : public lathwick::PassMonitor {
- public:
-  void progressStart(long total) override { starts.push_back(total); }
-  void progressValue(long v) override { values.push_back(v); }
-  void progressEnd() override { ++ends; }
-  void pumpEvents() override { ++pumps; }
-  bool cancelRequested() const override { return cancelAfter > 0 && pumps >= cancelAfter; }
-  void clearCancel() override { ++clears; }
-  void statusText(const char* t) override { statuses.emplace_back(t); }
-  std::vector<long> starts, values;
-  int ends = 0, clears = 0;
-  long pumps = 0, cancelAfter = 0;
-  std::vector<std::string> statuses;
 };
 
 RichPassSettings settingsFor(long lines = -1) {
@@ -70,6 +49,11 @@ std::string lines(int n) {
   return s;
 }
 
+PassResult pass(const std::string& in, const std::string& out, UpperCase& t,
+                lathwick::PassMonitor& m = lathwick::silentMonitor(), LineRange range = {}, long displayLines = -1) {
+  return runRichPass(in, out, testFrame(), range, t, settingsFor(displayLines), m);
+}
+
 }  // namespace
 
 TEST(RichPass, WritesHeaderEscapedParagraphsAndTrailer) {
@@ -77,7 +61,7 @@ TEST(RichPass, WritesHeaderEscapedParagraphsAndTrailer) {
   const auto in = dir.write("in.txt", "a{b}\r\nc\\d\r\nE");
   UpperCase t;
   RecordingMonitor m;
-  const auto r = runRichPass(in, dir.file("out.rtf"), testFrame(), LineRange{}, t, settingsFor(), m);
+  const auto r = pass(in, dir.file("out.rtf"), t, m);
   EXPECT_EQ(r.outcome, PassOutcome::Completed);
   EXPECT_EQ(r.count, 2);
   EXPECT_TRUE(r.reload);
@@ -93,14 +77,11 @@ TEST(RichPass, OnlyLinesInRangeAreTransformedAndNoChangeMeansNoReload) {
   TempDir dir;
   const auto in = dir.write("in.txt", "a\r\nb\r\nc\r\n");
   UpperCase t;
-  const auto r = runRichPass(in, dir.file("out.rtf"), testFrame(), LineRange{2, 2}, t, settingsFor(),
-                             lathwick::silentMonitor());
+  const auto r = pass(in, dir.file("out.rtf"), t, lathwick::silentMonitor(), LineRange{2, 2});
   EXPECT_EQ(r.count, 1);
   EXPECT_NE(dir.read("out.rtf").find("\\li400 a\r\n\\par\\li400 <B>\r\n\\par\\li400 c\r\n"), std::string::npos);
 
-  const auto in2 = dir.write("upper.txt", "A\r\nB");
-  const auto r2 = runRichPass(in2, dir.file("out2.rtf"), testFrame(), LineRange{}, t, settingsFor(),
-                              lathwick::silentMonitor());
+  const auto r2 = pass(dir.write("upper.txt", "A\r\nB"), dir.file("out2.rtf"), t);
   EXPECT_EQ(r2.outcome, PassOutcome::Completed);
   EXPECT_EQ(r2.count, 0);
   EXPECT_FALSE(r2.reload);
@@ -111,8 +92,7 @@ TEST(RichPass, OnlyLinesInRangeAreTransformedAndNoChangeMeansNoReload) {
 TEST(RichPass, EmptyInputGivesHeaderAndTrailerOnly) {
   TempDir dir;
   UpperCase t;
-  const auto r = runRichPass(dir.write("in.txt", ""), dir.file("out.rtf"), testFrame(), LineRange{}, t,
-                             settingsFor(), lathwick::silentMonitor());
+  const auto r = pass(dir.write("in.txt", ""), dir.file("out.rtf"), t);
   EXPECT_EQ(r.outcome, PassOutcome::Completed);
   EXPECT_EQ(dir.read("out.rtf"), "{\\rtf1 H}\r\n\\par}\r\n");
 }
@@ -121,13 +101,13 @@ TEST(RichPass, ProgressOnlyAbove200LinesEveryHundredth) {
   TempDir dir;
   UpperCase t;
   RecordingMonitor at200;
-  runRichPass(dir.write("a.txt", lines(200)), dir.file("a.rtf"), testFrame(), LineRange{}, t, settingsFor(), at200);
+  pass(dir.write("a.txt", lines(200)), dir.file("a.rtf"), t, at200);
   EXPECT_TRUE(at200.starts.empty());
   EXPECT_TRUE(at200.values.empty());
   EXPECT_GE(at200.pumps, 200);  // events still run once per line
 
   RecordingMonitor at201;
-  runRichPass(dir.write("b.txt", lines(201)), dir.file("b.rtf"), testFrame(), LineRange{}, t, settingsFor(), at201);
+  pass(dir.write("b.txt", lines(201)), dir.file("b.rtf"), t, at201);
   ASSERT_EQ(at201.starts, std::vector<long>{201});
   EXPECT_EQ(at201.ends, 1);
   // Step 2: reported before reading lines 1, 3, 5, ... and at the end of input.
@@ -142,7 +122,7 @@ TEST(RichPass, DisplayLineCountFromTheEditorDecidesTheProgress) {
   TempDir dir;
   UpperCase t;
   RecordingMonitor m;
-  runRichPass(dir.write("a.txt", lines(10)), dir.file("a.rtf"), testFrame(), LineRange{}, t, settingsFor(1000), m);
+  pass(dir.write("a.txt", lines(10)), dir.file("a.rtf"), t, m, LineRange{}, 1000);
   EXPECT_EQ(m.starts, std::vector<long>{1000});
   EXPECT_EQ(m.values, (std::vector<long>{0, 10}));
 }
@@ -151,9 +131,9 @@ TEST(RichPass, CancelStopsAfterTheLineInHandAndWritesNothing) {
   TempDir dir;
   UpperCase t;
   RecordingMonitor m;
-  m.cancelAfter = 3;
+  m.cancelAfterPumps = 3;
   const auto out = dir.write("out.rtf", "previous");
-  const auto r = runRichPass(dir.write("a.txt", lines(10)), out, testFrame(), LineRange{}, t, settingsFor(), m);
+  const auto r = pass(dir.write("a.txt", lines(10)), out, t, m);
   EXPECT_EQ(r.outcome, PassOutcome::Cancelled);
   EXPECT_EQ(r.message, "Operation canceled by user.");
   EXPECT_EQ(r.title, "Operation Incomplete.");
@@ -165,8 +145,7 @@ TEST(RichPass, CancelStopsAfterTheLineInHandAndWritesNothing) {
 TEST(RichPass, BareLineFeedsAreRefusedWithTheJunkFilterMessage) {
   TempDir dir;
   UpperCase t;
-  const auto r = runRichPass(dir.write("a.txt", "G00\nG01\n"), dir.file("out.rtf"), testFrame(), LineRange{}, t,
-                             settingsFor(), lathwick::silentMonitor());
+  const auto r = pass(dir.write("a.txt", "G00\nG01\n"), dir.file("out.rtf"), t);
   EXPECT_EQ(r.outcome, PassOutcome::Refused);
   EXPECT_EQ(r.message, lathwick::kJunkFilterMessage);
   EXPECT_TRUE(t.raws.empty());
@@ -176,13 +155,11 @@ TEST(RichPass, BareLineFeedsAreRefusedWithTheJunkFilterMessage) {
 TEST(RichPass, MissingInputIsNoInputAndUnwritableOutputFails) {
   TempDir dir;
   UpperCase t;
-  const auto r = runRichPass(dir.file("none.txt"), dir.file("out.rtf"), testFrame(), LineRange{}, t, settingsFor(),
-                             lathwick::silentMonitor());
+  const auto r = pass(dir.file("none.txt"), dir.file("out.rtf"), t);
   EXPECT_EQ(r.outcome, PassOutcome::NoInput);
   EXPECT_EQ(r.errorNumber, 53);
 
-  const auto r2 = runRichPass(dir.write("a.txt", "x"), dir.file("no/such/folder/out.rtf"), testFrame(), LineRange{},
-                              t, settingsFor(), lathwick::silentMonitor());
+  const auto r2 = pass(dir.write("a.txt", "x"), dir.file("no/such/folder/out.rtf"), t);
   EXPECT_EQ(r2.outcome, PassOutcome::Failed);
   EXPECT_EQ(r2.message.rfind("The error 76 ", 0), 0u) << r2.message;
   EXPECT_NE(r2.message.find(" occurred during the test."), std::string::npos);

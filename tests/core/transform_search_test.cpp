@@ -2,6 +2,7 @@
 // ends the line, and the replace and highlight passes with their markers.
 #include <gtest/gtest.h>
 
+#include "marker_frame.h"
 #include "support/temp_dir.h"
 #include "transform/rich_text_escape.h"
 #include "transform/search_match.h"
@@ -11,16 +12,7 @@ using namespace lathwick::transform;
 using lathwick::test::TempDir;
 
 namespace {
-RichTextFrame frame() {
-  RichTextFrame f;
-  f.header = "{\\rtf1 H}";
-  f.trailer = "\\par}";
-  f.markStart = "<";
-  f.markEnd = ">";
-  f.commentOpen = "(";
-  f.commentClose = ")";
-  return f;
-}
+RichTextFrame frame() { return lathwick::test::markerFrame("{\\rtf1 H}", "\\par}"); }
 
 // One line through the replace work, as the pass does it (escaped first).
 std::string replaced(const std::string& raw, const std::string& find, const std::string& repl, int flags,

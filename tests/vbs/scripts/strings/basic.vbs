@@ -13,3 +13,7 @@ WriteLine StrReverse("abc")                           ' expect: cba
 WriteLine Asc("A") & " " & Chr(66) & " " & AscW("a") ' expect: 65 B 97
 WriteLine Len(vbCrLf) & Len(vbNewLine) & Asc(vbNewLine)   ' expect: 2213
 WriteLine vbNullString = ""                           ' expect: True
+WriteLine Escape("G01 X1.5;@*_+-./")      ' expect: G01%20X1.5%3B@*_+-./
+WriteLine Unescape("G01%20X1.5%3b")       ' expect: G01 X1.5;
+WriteLine Unescape("100%") & Unescape("%zz")   ' expect: 100%%zz
+WriteLine Len(Unescape("%u00E9")) & Len(Unescape("%u20AC"))   ' expect: 13
