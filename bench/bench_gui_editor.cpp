@@ -15,9 +15,11 @@
 
 #include "document/document_table.h"
 #include "document/gui/frm_editor.h"
+#include "document/gui/text_control.h"
 #include "format/bundled_schemes.h"
 #include "format/scheme_data_file.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/rich_text_box.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/settings_store.h"
 #include "shell/startup.h"
@@ -148,6 +150,13 @@ Editor& editor() {
   return *theEditor;
 }
 
+// The styles of one line of the program: a view that changed nothing would be fast for nothing.
+std::string lineStyles(gui::frmEditor* e) {
+  constexpr int kLine = 500001;
+  const long at = e->rtfTextBox().lineIndex(kLine);
+  return e->richTextBox().stylesOf(at, at + e->rtfTextBox().lineLength(kLine));
+}
+
 void finish(benchmark::State& state, gui::frmEditor* e) {
   if (editor().dialogs.count) state.SkipWithError(("asked: " + editor().dialogs.last).c_str());
   if (e) state.counters["lines"] = e->LineCount();
@@ -170,27 +179,33 @@ void BM_LoadDoc(benchmark::State& state) {
 // View Modes on the plain program just opened.
 void BM_ViewModes(benchmark::State& state) {
   gui::frmEditor* e = nullptr;
+  std::string before;
   for (auto _ : state) {
     state.PauseTiming();
     editor().closeAll();
     e = editor().open();
+    before = lineStyles(e);
     state.ResumeTiming();
     editor().view(0);
   }
+  if (e && lineStyles(e) == before) state.SkipWithError("the program was not coloured by modes");
   finish(state, e);
 }
 
 // View Codes on a program coloured by modes: the undo snapshot is then rich text.
 void BM_ViewCodes(benchmark::State& state) {
   gui::frmEditor* e = nullptr;
+  std::string before;
   for (auto _ : state) {
     state.PauseTiming();
     editor().closeAll();
     e = editor().open();
     editor().view(0);
+    before = lineStyles(e);
     state.ResumeTiming();
     editor().view(1);
   }
+  if (e && lineStyles(e) == before) state.SkipWithError("the program was not coloured by codes");
   finish(state, e);
 }
 
