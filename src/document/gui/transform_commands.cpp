@@ -74,8 +74,11 @@ void frmEditor::showPassResult(const transform::PassResult& result) {
         setFileUndoable(true);
       }
       break;
-    default:
-      reportPassOutcome(result);  // nothing is said when the input could not be written or read
+    case PassOutcome::NoInput:  // the input could not be written or read: nothing is said
+    case PassOutcome::Cancelled:
+    case PassOutcome::Refused:
+    case PassOutcome::Failed:
+      reportPassOutcome(result);
       break;
   }
 }
