@@ -1,7 +1,7 @@
 #pragma once
 // Shared by the dialog tests: a QApplication, a fake document over a temporary folder that
 // keeps its text as lines joined by "\n" (one character per line break, as the text control
-// counts), and a recorder of the message boxes.
+// counts), and scripted answers to its message boxes.
 #include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -14,9 +14,9 @@
 
 #include "platform/file_system.h"
 #include "shell/settings_store.h"
+#include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 #include "transform/find_next.h"
-#include "transform/gui/message_box.h"
 #include "transform/gui/transform_target.h"
 
 namespace lathwick::test {

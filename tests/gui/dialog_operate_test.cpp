@@ -19,7 +19,6 @@ namespace {
 
 class OperateDialog : public ::testing::Test {
  protected:
-  OperateDialog() : scoped(boxes) {}
   QComboBox* box(const char* name) {
     auto* w = dialog->findChild<QComboBox*>(name);
     EXPECT_NE(w, nullptr) << name;
@@ -37,8 +36,7 @@ class OperateDialog : public ::testing::Test {
   QApplication& app = test::testApp();
   test::TempDir configDir;
   SettingsStore settings{configDir.file("Lathwick.ini")};
-  RecordingMessageBoxes boxes;
-  ScopedMessageBoxes scoped;
+  lathwick::test::ScriptedDialogs dialogs;
   std::unique_ptr<frmOperate> dialog = std::make_unique<frmOperate>(settings);
 };
 
@@ -63,7 +61,7 @@ TEST_F(OperateDialog, ScalesTheSelectedLinesAndKeepsTheEntries) {
   EXPECT_EQ(body[2], "G01 X1");
   EXPECT_EQ(status(), "3 Operations made.");
   EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Operating... [Esc] to cancel", "Press F1 for help."}));
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
 
   EXPECT_EQ(settings.get("Operate", "Address"), "XYZ");
   EXPECT_EQ(settings.get("Operate", "Operators"), "*");
@@ -90,11 +88,11 @@ TEST_F(OperateDialog, ValidationMessagesInOrderLeaveTheDialogOpen) {
                         Case{"X", "+", "", "0.0", "Value is required."},
                         Case{"", "+", "1", "0.0", "Address is required."},
                         Case{"X", "+", "1", "", "Format is required."}}) {
-    boxes.shown.clear();
+    dialogs.messages.clear();
     fill(c.address, c.op, c.value, c.format);
     ok();
-    ASSERT_EQ(boxes.shown.size(), 1u) << c.message;
-    EXPECT_EQ(boxes.shown[0].text, c.message);
+    ASSERT_EQ(dialogs.messages.size(), 1u) << c.message;
+    EXPECT_EQ(dialogs.messages[0].text, c.message);
   }
   EXPECT_EQ(box("cboOperators")->currentText(), "+");  // set back after the division by zero
   EXPECT_EQ(doc.reloads, 0);
@@ -109,9 +107,9 @@ TEST_F(OperateDialog, ChoosingDivisionWhileTheValueIsZeroIsRefusedAtOnce) {
   QComboBox* op = box("cboOperators");
   op->setCurrentIndex(op->findText("/"));
   emit op->activated(op->currentIndex());
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text, "Division by zero not allowed.");
-  EXPECT_EQ(boxes.shown[0].icon, MessageIcon::Information);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Division by zero not allowed.");
+  EXPECT_EQ(dialogs.messages[0].icon, Icon::Information);
   EXPECT_EQ(op->currentText(), "+");
 }
 
@@ -149,8 +147,8 @@ TEST_F(OperateDialog, BareLineFeedsAreSentToTheJunkFilter) {
   doc.bareLineFeeds = true;
   dialog->showFor(doc);
   ok();
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text,
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text,
             "This file format is not correct for this operation. Please use the junk filter under Options and try again.");
   EXPECT_EQ(doc.reloads, 0);
 }

@@ -21,7 +21,6 @@ const std::vector<std::string> kProgram{"%", "O1000", "(SETUP)", "G00 X0", "N5 G
 
 class RenumberDialog : public ::testing::Test {
  protected:
-  RenumberDialog() : scoped(boxes) {}
   template <class T>
   T* child(const char* name) {
     T* w = dialog->findChild<T*>(name);
@@ -38,8 +37,7 @@ class RenumberDialog : public ::testing::Test {
   QApplication& app = test::testApp();
   test::TempDir configDir;
   SettingsStore settings{configDir.file("Lathwick.ini")};
-  RecordingMessageBoxes boxes;
-  ScopedMessageBoxes scoped;
+  lathwick::test::ScriptedDialogs dialogs;
   std::unique_ptr<frmRenumber> dialog = std::make_unique<frmRenumber>(settings);
 };
 
@@ -62,7 +60,7 @@ TEST_F(RenumberDialog, EachMethodOnTheSampleProgram) {
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Renumbering file...", "Press F1 for help."}));
   }
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(RenumberDialog, OneLineSelectionStaysARange) {
@@ -81,9 +79,9 @@ TEST_F(RenumberDialog, EmptySequenceCharacterIsRefusedAndTheDialogStays) {
   dialog->showFor(doc);
   child<QLineEdit>("txtSeqChr")->setText("   ");
   ok();
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text, "Sequence character must be specified.");
-  EXPECT_EQ(boxes.shown[0].title, "Error");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Sequence character must be specified.");
+  EXPECT_EQ(dialogs.messages[0].caption, "Error");
   EXPECT_EQ(doc.reloads, 0);
   EXPECT_TRUE(dialog->isVisible());
 }

@@ -21,7 +21,6 @@ namespace {
 
 class SearchDialog : public ::testing::Test {
  protected:
-  SearchDialog() : scoped(boxes) {}
   template <class T>
   T* child(const char* name) {
     T* w = dialog->findChild<T*>(name);
@@ -38,8 +37,7 @@ class SearchDialog : public ::testing::Test {
   QApplication& app = test::testApp();
   test::TempDir configDir;
   SettingsStore settings{configDir.file("Lathwick.ini")};
-  RecordingMessageBoxes boxes;
-  ScopedMessageBoxes scoped;
+  lathwick::test::ScriptedDialogs dialogs;
   std::unique_ptr<frmSearch> dialog = std::make_unique<frmSearch>(settings);
 };
 
@@ -68,7 +66,7 @@ TEST_F(SearchDialog, ReplaceAllActsOnTheSelectedLinesOnlyAndSavesTheHistories) {
   EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Replacing... [Esc] to cancel", "Press F1 for help."}));
   EXPECT_EQ(settings.get("cboFind", "cboFind1"), "X1");
   EXPECT_EQ(settings.get("cboReplace", "cboReplace1"), "X22");
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
 
   ASSERT_TRUE(child<QPushButton>("cmdUndo")->isEnabled());
   click("cmdUndo");
@@ -120,13 +118,13 @@ TEST_F(SearchDialog, F3AndF4WorkThroughTheRangeThenSayCompleteOnceAndStartAgain)
   EXPECT_EQ(doc.selStart, 6);
   dialog->replaceNext(doc);
   EXPECT_EQ(doc.text, "X5 Y1\nX5");
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text, "Search complete.");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Search complete.");
   EXPECT_TRUE(dialog->searchState().findText().empty());
 
   dialog->findNext(doc);  // the entries went with the completed search
   EXPECT_TRUE(dialog->isVisible());
-  EXPECT_EQ(boxes.shown.size(), 1u);
+  EXPECT_EQ(dialogs.messages.size(), 1u);
   EXPECT_EQ(child<QComboBox>("cboFind")->itemText(0), "X1");  // history, newest first
 }
 
@@ -167,10 +165,10 @@ TEST_F(SearchDialog, CancelDuringALongPassLeavesTheDocumentAndSaysSoOnce) {
   EXPECT_FALSE(child<QPushButton>("cmdUndo")->isEnabled());  // nothing was replaced
   EXPECT_EQ(doc.reloads, 0);
   EXPECT_EQ(doc.text, test::joinLines(lines, "\n"));
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text, "Operation canceled by user.");
-  EXPECT_EQ(boxes.shown[0].title, "Operation Incomplete.");
-  EXPECT_EQ(boxes.shown[0].icon, MessageIcon::Information);
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Operation canceled by user.");
+  EXPECT_EQ(dialogs.messages[0].caption, "Operation Incomplete.");
+  EXPECT_EQ(dialogs.messages[0].icon, Icon::Information);
   EXPECT_FALSE(dialog->isVisible());
   // The progress bar was set up for the document's lines and is put away again.
   EXPECT_EQ(child<QProgressBar>("progReplace")->maximum(), 5000);

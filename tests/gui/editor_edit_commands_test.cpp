@@ -2,21 +2,30 @@
 #include <QClipboard>
 
 #include "frame_fixture.h"
+#include "platform/gui/rich_text_box.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
 
-TEST_F(FrameTest, CutLineAndPasteLineMoveALine) {
+TEST_F(FrameTest, CutLineAndPasteLineMoveALineWithItsLook) {
   start();
-  gui::frmEditor* e = openFile(files.write("p.nc", "N10 G00\r\nN20 G01\r\nN30 M30\r\n"));
+  gui::frmEditor* e = openFile(files.write(
+      "p.rtf", "{\\rtf1\\ansi{\\fonttbl{\\f0 Courier New;}}\\f0 N10 G00\\par\\b N20 G01\\b0\\par N30 M30}"));
   auto& text = e->rtfTextBox();
+  const RichTextBox& box = e->richTextBox();
+  const auto boldAt = [&box](long at) {
+    return box.styleTable().format(static_cast<unsigned char>(box.stylesOf(at, at + 1).at(0))).bold;
+  };
+  ASSERT_TRUE(boldAt(text.lineIndex(1)));
   text.setSelection(text.lineIndex(1) + 3, 0);
   trigger("mnuCutLine");
-  EXPECT_EQ(text.text(), "N10 G00\r\nN30 M30\r\n");
-  EXPECT_EQ(e->keptLine(), "N20 G01");
+  EXPECT_EQ(text.text(), "N10 G00\r\nN30 M30");
   text.setSelection(0, 0);
   trigger("mnuPasteLine");
-  EXPECT_EQ(text.text(), "N20 G01\r\nN10 G00\r\nN30 M30\r\n");
+  EXPECT_EQ(text.text(), "N20 G01\r\nN10 G00\r\nN30 M30");
+  EXPECT_TRUE(boldAt(0));
+  EXPECT_TRUE(boldAt(6));
+  EXPECT_FALSE(boldAt(text.lineIndex(1)));
 }
 
 TEST_F(FrameTest, CutToEndStopsAtTheLineBreak) {

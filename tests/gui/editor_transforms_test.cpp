@@ -11,7 +11,6 @@
 #include "frame_fixture.h"
 #include "transform/gui/frm_renumber.h"
 #include "transform/gui/frm_search.h"
-#include "transform/gui/message_box.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
@@ -19,15 +18,12 @@ using lathwick::test::FrameTest;
 namespace {
 class TransformsTest : public FrameTest {
  protected:
-  TransformsTest() : scoped(boxes) {}
   template <class T>
   T* child(QWidget* parent, const char* name) {
     T* w = parent->findChild<T*>(name);
     EXPECT_NE(w, nullptr) << name;
     return w;
   }
-  gui::RecordingMessageBoxes boxes;
-  gui::ScopedMessageBoxes scoped;
 };
 }  // namespace
 
@@ -49,8 +45,8 @@ TEST_F(TransformsTest, F3AndF4FindAndReplaceInTheActiveDocument) {
   EXPECT_EQ(e->rtfTextBox().selStart(), 7);
   trigger("mnuReplace");
   EXPECT_EQ(e->rtfTextBox().text(), "X5 Y1\r\nX5\r\n");
-  ASSERT_EQ(boxes.shown.size(), 1u);
-  EXPECT_EQ(boxes.shown[0].text, "Search complete.");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Search complete.");
   EXPECT_TRUE(e->record().changed);
 }
 
@@ -91,7 +87,7 @@ TEST_F(TransformsTest, SpacesAndTheJunkFilterThroughTheOptionsMenu) {
   EXPECT_TRUE(junk->FileUndoable());
   EXPECT_FALSE(e->FileUndoable());  // one undo file: the last window to use it has it
   EXPECT_TRUE(dialogs.messages.empty());
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(TransformsTest, OperateScalesTheSelectedLineOnly) {
@@ -112,5 +108,5 @@ TEST_F(TransformsTest, OperateScalesTheSelectedLineOnly) {
   // The result comes back as rich text (the changed values highlighted); the characters read:
   EXPECT_EQ(e->rtfTextBox().text(), "G00 X10 Y-2.5\r\nG01 X20.0 Y-5.0\r\nG01 X1");
   EXPECT_TRUE(e->FileUndoable());
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(dialogs.messages.empty());
 }

@@ -1,7 +1,7 @@
 // The file dialogs' filters, turned into the form the dialog reads.
 #include <gtest/gtest.h>
 
-#include "shell/gui/dialogs.h"
+#include "platform/gui/dialogs.h"
 
 using lathwick::gui::qtFilterOf;
 

@@ -9,17 +9,15 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <deque>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/gui/frm_editor.h"
-#include "shell/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/settings_store.h"
 #include "shell/startup.h"
+#include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 
 // Qt's own entry for a key that may be a shortcut (what the window system's key delivery runs
@@ -44,38 +42,6 @@ inline QApplication& guiApp() {
   static QApplication* app = new QApplication(argc, argv);
   return *app;
 }
-
-// Answers the frame's questions from queues and records what it was asked.
-class ScriptedDialogs : public gui::Dialogs {
- public:
-  struct Message {
-    std::string text, caption;
-    gui::Buttons buttons;
-    gui::Icon icon;
-  };
-  std::deque<gui::Answer> answers;                      // default: Ok / Cancel for questions
-  std::deque<std::optional<std::string>> files;         // default: cancelled
-  std::vector<Message> messages;
-  std::vector<gui::FileRequest> requests;
-  std::vector<std::string> opened;
-
-  gui::Answer message(const std::string& text, const std::string& caption, gui::Buttons buttons,
-                      gui::Icon icon) override {
-    messages.push_back({text, caption, buttons, icon});
-    if (answers.empty()) return buttons == gui::Buttons::Ok ? gui::Answer::Ok : gui::Answer::Cancel;
-    const gui::Answer a = answers.front();
-    answers.pop_front();
-    return a;
-  }
-  std::optional<std::string> chooseFile(const gui::FileRequest& request) override {
-    requests.push_back(request);
-    if (files.empty()) return std::nullopt;
-    auto f = files.front();
-    files.pop_front();
-    return f;
-  }
-  void openInBrowser(const std::string& path) override { opened.push_back(path); }
-};
 
 // Key and mouse input delivered as the window system would (press, then release).
 inline void keyClick(QWidget* w, int key, Qt::KeyboardModifiers mods = Qt::NoModifier, const QString& text = {}) {
@@ -118,7 +84,6 @@ class FrameTest : public ::testing::Test {
 
   gui::MDIForm1& start() {
     frame = std::make_unique<gui::MDIForm1>(values, settings);
-    frame->setDialogs(&dialogs);
     frame->load();
     frame->show();
     QApplication::processEvents();

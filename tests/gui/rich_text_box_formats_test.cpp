@@ -1,6 +1,7 @@
 // Formats in the control: loaded from rich text, saved back, kept by the control's own undo.
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include "rich_text_box_fixture.h"
 #include "support/temp_dir.h"
@@ -128,4 +129,20 @@ TEST_F(RichTextBoxFormats, ManyDistinctFormatsFallBackWithoutLosingText) {
     const int n = static_cast<unsigned char>(s);
     EXPECT_TRUE(n < 32 || n > 39) << n;
   }
+}
+
+TEST_F(RichTextBoxFormats, IndentPointerShowsOverTheLeftIndentOnly) {
+  box->loadFile(kColorized, FileKind::RichText);  // indented 400 twips
+  const double twip = box->logicalDpiX() / 1440.0;
+  QWidget* view = box->viewport();
+  const auto moveTo = [view](double x) {
+    const QPointF at(x, 10);
+    QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view, &move);
+    return view->cursor().shape();
+  };
+  EXPECT_EQ(moveTo(400 * twip - 1), Qt::BitmapCursor);
+  EXPECT_NE(moveTo(400 * twip + 2), Qt::BitmapCursor);
+  EXPECT_NE(moveTo(200), Qt::BitmapCursor);
+  EXPECT_EQ(moveTo(0), Qt::BitmapCursor);
 }

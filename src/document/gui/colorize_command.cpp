@@ -5,6 +5,7 @@
 #include "document/gui/frm_editor.h"
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
+#include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/status_panels.h"
 #include "transform/gui/qt_pass_monitor.h"
@@ -38,7 +39,6 @@ void frmEditor::Colorize(int view) {
     frame_.setPassRunning(false);
   }
   frame_.statusPanels().setText("Stat", kReadyStatus);
-  Dialogs& dialogs = frame_.dialogs();
   switch (result.outcome) {
     case ColorizeOutcome::Done:
       text_->setColours(result.backColour, scheme->style(0, kOtherTextStyle).colour);
@@ -47,13 +47,13 @@ void frmEditor::Colorize(int view) {
     case ColorizeOutcome::NoInput:
       break;
     case ColorizeOutcome::Refused:
-      dialogs.message(kJunkFilterMessage, kAppTitle, Buttons::Ok, Icon::Information);
+      dialogs().message(kJunkFilterMessage, kAppTitle, Buttons::Ok, Icon::Information);
       break;
     case ColorizeOutcome::Cancelled:
-      dialogs.message(kCancelMessage, kCancelTitle, Buttons::Ok, Icon::Information);
+      dialogs().message(kCancelMessage, kCancelTitle, Buttons::Ok, Icon::Information);
       break;
     case ColorizeOutcome::Failed:
-      dialogs.message(result.message(), kAppTitle, Buttons::Ok, Icon::Exclamation);
+      dialogs().message(result.message(), kAppTitle, Buttons::Ok, Icon::Exclamation);
       break;
   }
 }

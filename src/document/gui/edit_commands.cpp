@@ -32,7 +32,7 @@ void frmEditor::cutLine() {
   const int first = text_->lineIndex(line);
   const int length = text_->lineLength(line);
   text_->setSelection(first, length);
-  cutLine_ = text_->selText();
+  cutLine_ = rich_->box().selRtf();  // with its look, for Paste Line
   // The line's text and its break go together (CR LF, or a lone CR or LF; none on the last line).
   const int breakLength = line + 1 < text_->lineCount() ? text_->lineIndex(line + 1) - (first + length) : 0;
   text_->setSelection(first, length + breakLength);
@@ -49,7 +49,8 @@ void frmEditor::cutToEnd() {
 }
 
 void frmEditor::pasteLine() {
-  text_->replaceSelection(cutLine_ + "\r\n");
+  if (!cutLine_.empty()) rich_->box().setSelRtf(cutLine_);
+  text_->replaceSelection("\r\n");
   ShowLineNum();
 }
 

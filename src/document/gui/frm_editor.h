@@ -83,8 +83,6 @@ class frmEditor : public QWidget, public TransformTarget {
   void getLastSelection();
   void changeCase(int which);  // 0 upper, 1 lower, 2 title
 
-  const std::string& keptLine() const { return cutLine_; }
-
   // The plain-text passes of the Options menu, through the work files and reloadDocument.
   void AddSpaces();
   void RemoveSpaces();
@@ -124,7 +122,7 @@ class frmEditor : public QWidget, public TransformTarget {
   TextControl* text_;
   std::unique_ptr<MenuSet> menus_;
   lathwick::FileUndoable undoable_;
-  std::string cutLine_;
+  std::string cutLine_;  // rich text of the last line Cut Line removed
 };
 
 }  // namespace lathwick::gui

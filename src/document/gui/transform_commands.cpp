@@ -10,6 +10,7 @@
 #include "transform/find_next.h"
 #include "transform/junk_filter.h"
 #include "transform/spaces.h"
+#include "transform/gui/document_pass.h"
 #include "transform/gui/qt_pass_monitor.h"
 
 namespace lathwick::gui {
@@ -73,13 +74,11 @@ void frmEditor::showPassResult(const transform::PassResult& result) {
         setFileUndoable(true);
       }
       break;
-    case PassOutcome::NoInput:
-      break;  // the input could not be written or read: nothing happens, nothing is said
+    case PassOutcome::NoInput:  // the input could not be written or read: nothing is said
     case PassOutcome::Cancelled:
     case PassOutcome::Refused:
     case PassOutcome::Failed:
-      frame_.dialogs().message(result.message, result.title.empty() ? kAppTitle : result.title, Buttons::Ok,
-                               result.outcome == PassOutcome::Failed ? Icon::Exclamation : Icon::Information);
+      reportPassOutcome(result);
       break;
   }
 }

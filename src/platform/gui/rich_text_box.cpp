@@ -3,6 +3,10 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QMetaObject>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QPolygon>
 #include <algorithm>
 
 #include "document/rtf_reader.h"
@@ -40,12 +44,28 @@ QWidget* installAccessibility(QWidget* parent) {
 
 }  // namespace
 
+namespace {
+// The mirror of the usual arrow, its point at the top right: the pointer of a selection bar.
+QCursor makeIndentPointer() {
+  QPixmap image(16, 16);
+  image.fill(Qt::transparent);
+  QPainter paint(&image);
+  paint.setPen(Qt::white);
+  paint.setBrush(Qt::black);
+  paint.drawPolygon(QPolygon({{15, 0}, {15, 14}, {11, 10}, {8, 15}, {6, 14}, {9, 9}, {4, 9}}));
+  paint.end();
+  return QCursor(image, 15, 0);
+}
+}  // namespace
+
 FileKind fileKindOf(const std::string& fileName) {
   return endsWithIgnoreCase(fileName, ".RTF") ? FileKind::RichText : FileKind::PlainText;
 }
 
 RichTextBox::RichTextBox(QWidget* parent)
-    : QsciScintilla(installAccessibility(parent)), styleApplied_(StyleTable::kStyleCount, false) {
+    : QsciScintilla(installAccessibility(parent)),
+      styleApplied_(StyleTable::kStyleCount, false),
+      indentPointer_(makeIndentPointer()) {
   defaultFormat_.fontName = "Courier New";
   setUtf8(false);
   SendScintilla(SCI_SETLEXER, SCLEX_CONTAINER);
@@ -219,6 +239,15 @@ void RichTextBox::undo() {
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
   QsciScintilla::keyPressEvent(event);
   flushPendingFormats();
+}
+
+void RichTextBox::mouseMoveEvent(QMouseEvent* event) {
+  // Inside the indent means up to and including its last twip.
+  const bool inside = event->position().x() * 1440.0 / logicalDpiX() < indentTwips_ + 1;
+  if (!inside && indentPointerShown_) viewport()->setCursor(Qt::IBeamCursor);
+  QsciScintilla::mouseMoveEvent(event);  // the control's own pointer, wherever it wants one
+  if (inside) viewport()->setCursor(indentPointer_);
+  indentPointerShown_ = inside;
 }
 
 void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {

@@ -7,6 +7,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <QColor>
+#include <QCursor>
 #include <QPoint>
 #include <functional>
 #include <optional>
@@ -93,6 +94,9 @@ class RichTextBox : public QsciScintilla {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  // Over the left indent of the text the pointer is the indent pointer, an arrow pointing up
+  // and to the right; elsewhere the control's own.
+  void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   struct DeletedFormats {
@@ -137,6 +141,8 @@ class RichTextBox : public QsciScintilla {
   std::optional<DocumentStyling> loadedStyling_;
   StylePieces pieces_;
   bool flushQueued_ = false;
+  QCursor indentPointer_;
+  bool indentPointerShown_ = false;
 };
 
 }  // namespace lathwick

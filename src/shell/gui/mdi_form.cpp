@@ -19,6 +19,7 @@
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
+#include "platform/gui/dialogs.h"
 #include "shell/app_folder.h"
 #include "shell/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
@@ -45,8 +46,6 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
     : QMainWindow(parent),
       values_(values),
       settings_(settings),
-      ownDialogs_(std::make_unique<QtDialogs>(this)),
-      dialogs_(ownDialogs_.get()),
       mdi_(new QMdiArea(this)),
       currentScheme_(values.CurrentScheme) {
   setObjectName(QStringLiteral("MDIForm1"));
@@ -277,14 +276,14 @@ const SchemeRecord* MDIForm1::currentSchemeRecord() {
 void MDIForm1::reportDataFileProblem() {
   if (dataFileProblemShown_) return;
   dataFileProblemShown_ = true;
-  dialogs_->message(kDataFileProblemMessage, kDataFileProblemTitle, Buttons::Ok, Icon::Exclamation);
+  dialogs().message(kDataFileProblemMessage, kDataFileProblemTitle, Buttons::Ok, Icon::Exclamation);
 }
 
 void MDIForm1::showHelp() {
   if (FileExists(values_.HelpFile))
-    dialogs_->openInBrowser(values_.HelpFile);
+    dialogs().openInBrowser(values_.HelpFile);
   else
-    dialogs_->message("The help file " + values_.HelpFile + " could not be found.", kAppTitle, Buttons::Ok,
+    dialogs().message("The help file " + values_.HelpFile + " could not be found.", kAppTitle, Buttons::Ok,
                       Icon::Information);
 }
 
@@ -346,7 +345,7 @@ void MDIForm1::load() {
     rebuildRecentMenus();
     // The script host joins here once macros are available.
   } catch (const std::exception& e) {
-    dialogs_->message(e.what(), "MDIForm load", Buttons::Ok, Icon::Information);
+    dialogs().message(e.what(), "MDIForm load", Buttons::Ok, Icon::Information);
   }
 }
 
@@ -393,7 +392,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
   try {
     writeFrameSettings(settings_, currentFrameSettings());
   } catch (const std::exception& e) {
-    dialogs_->message(e.what(), kAppTitle, Buttons::Ok, Icon::Information);
+    dialogs().message(e.what(), kAppTitle, Buttons::Ok, Icon::Information);
   }
   deleteWorkFiles();
   event->accept();

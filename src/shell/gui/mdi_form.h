@@ -14,7 +14,6 @@
 #include "document/gui/reload_document.h"
 #include "format/scheme_record.h"
 #include "shell/command_dispatch.h"
-#include "shell/gui/dialogs.h"
 #include "shell/settings_table.h"
 #include "shell/startup.h"
 
@@ -101,9 +100,6 @@ class MDIForm1 : public QMainWindow {
   // The windows that share the one undo file.
   FileUndoGroup& undoGroup() { return undoGroup_; }
 
-  void setDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
-  Dialogs& dialogs() { return *dialogs_; }
-
   // The record of the current scheme, read from the data file when the number changes; the first
   // shipped scheme when the data file cannot give it.
   const SchemeRecord* currentSchemeRecord();
@@ -142,8 +138,6 @@ class MDIForm1 : public QMainWindow {
 
   AppValues values_;
   SettingsStore& settings_;
-  std::unique_ptr<QtDialogs> ownDialogs_;
-  Dialogs* dialogs_;
   CommandDispatcher commands_;
   FileUndoGroup undoGroup_;  // before the windows, which leave it as they go
   std::unique_ptr<TransformDialogs> transforms_;

@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 #include "document/gui/frm_editor.h"
+#include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_dialogs.h"
 
@@ -31,7 +32,7 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuAuto", [this](int) { setAutoFormat(!autoFormat_); });
   commands_.add("mnuContents", [this](int) { showHelp(); });
   commands_.add("mnuAbout", [this](int) {
-    dialogs_->message(values_.VersionText, std::string("About ") + kAppTitle, Buttons::Ok, Icon::Information);
+    dialogs().message(values_.VersionText, std::string("About ") + kAppTitle, Buttons::Ok, Icon::Information);
   });
   const auto readMe = [this](int) { LoadDoc(values_.AppFolder + "Readme.txt"); };
   commands_.add("mnuReadMe", readMe);

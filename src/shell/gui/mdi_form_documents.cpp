@@ -16,6 +16,7 @@
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
+#include "platform/gui/dialogs.h"
 #include "shell/app_folder.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/menu_set.h"
@@ -96,7 +97,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
   try {
     checkReadable(fileName);
     if (fileSize(fileName) == 0) {
-      dialogs_->message(emptyFileMessage(fileName), kEmptyFileCaption, Buttons::Ok, Icon::Information);
+      dialogs().message(emptyFileMessage(fileName), kEmptyFileCaption, Buttons::Ok, Icon::Information);
       return nullptr;
     }
     const int index = documents_.findFreeSlot();
@@ -118,9 +119,9 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     // The script procedure "LoadDoc" is called here once macros are available.
     return editor;
   } catch (const AppError& e) {
-    dialogs_->message(FileErrorText(e.number(), e.description()), kFileErrorCaption, Buttons::Ok, Icon::Information);
+    dialogs().message(FileErrorText(e.number(), e.description()), kFileErrorCaption, Buttons::Ok, Icon::Information);
   } catch (const std::exception& e) {
-    dialogs_->message(e.what(), kFileErrorCaption, Buttons::Ok, Icon::Information);
+    dialogs().message(e.what(), kFileErrorCaption, Buttons::Ok, Icon::Information);
   }
   // A window opened for a file that could not be read goes again, leaving no empty document.
   if (editor) {
@@ -135,7 +136,7 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
     HourGlass wait;
     window.rtfTextBox().saveFile(fileName, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
   } catch (const std::exception& e) {
-    dialogs_->message(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
+    dialogs().message(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
     return false;
   }
   DocumentRecord& record = window.record();
@@ -152,7 +153,7 @@ void MDIForm1::saveAsPlain(frmEditor& window) {
   FileRequest request{true, kPlainTitle, kPlainFilter, "", ""};
   request.fileName = FileNameOf(current);
   request.initialFolder = PathOf(current);
-  const auto chosen = dialogs_->chooseFile(request);
+  const auto chosen = dialogs().chooseFile(request);
   if (!chosen) return;
   SaveFile(window, fixChosenSaveName(*chosen));
 }
@@ -164,7 +165,7 @@ void MDIForm1::saveAsRich(frmEditor& window) {
   FileRequest request{true, "Save As Rich Text File", "Rich Text (*.RTF)|*.RTF", "", ""};
   request.fileName = FileNameOf(current);
   request.initialFolder = PathOf(current);
-  const auto chosen = dialogs_->chooseFile(request);
+  const auto chosen = dialogs().chooseFile(request);
   if (!chosen) return;
   SaveFile(window, fixChosenSaveName(*chosen));
 }
@@ -173,7 +174,7 @@ bool MDIForm1::queryClose(frmEditor& window) {
   DocumentRecord& record = window.record();
   if (!closeNeedsQuery(record)) return false;
   const std::string caption = window.windowTitle().toLocal8Bit().toStdString();
-  const Answer answer = dialogs_->message(closeQueryMessage(caption), windowTitle().toLocal8Bit().toStdString(),
+  const Answer answer = dialogs().message(closeQueryMessage(caption), windowTitle().toLocal8Bit().toStdString(),
                                           Buttons::YesNoCancel, Icon::Exclamation);
   const QueryAnswer query = answer == Answer::Yes ? QueryAnswer::Yes
                             : answer == Answer::No ? QueryAnswer::No
@@ -185,7 +186,7 @@ bool MDIForm1::queryClose(frmEditor& window) {
     name = record.fileName;
   } else if (decision.save == CloseDecision::Save::AskForName) {
     FileRequest request{true, kPlainTitle, kPlainFilter, lastPath_, kUntitledSaveName};
-    name = dialogs_->chooseFile(request).value_or(std::string());
+    name = dialogs().chooseFile(request).value_or(std::string());
   }
   if (!name.empty()) {
     // A save that fails keeps the window open: closing it would throw the text away.
@@ -204,7 +205,7 @@ void MDIForm1::openDialog(int quickFolder) {
   FileRequest request{false, "Open File For Editing", "All Files (*.*)|*.*", lastPath_, ""};
   QAction* folder = quickFolder >= 1 ? quickFolders_.at(static_cast<std::size_t>(quickFolder - 1)) : nullptr;
   if (folder) request.initialFolder = folder->data().toString().toLocal8Bit().toStdString();
-  const auto chosen = dialogs_->chooseFile(request);
+  const auto chosen = dialogs().chooseFile(request);
   if (!chosen) return;
   if (folder) {
     // The quick folder remembers where its last file came from.

@@ -3,7 +3,8 @@
 #include <QAbstractButton>
 #include <QWidget>
 
-#include "transform/gui/message_box.h"
+#include "platform/gui/dialogs.h"
+#include "shell/startup.h"
 #include "transform/gui/qt_pass_monitor.h"
 #include "transform/gui/transform_target.h"
 
@@ -22,7 +23,7 @@ std::optional<PassResult> runDocumentPass(TransformTarget& target, QProgressBar*
     QtPassMonitor monitor(bar, [&target](const std::string& text) { target.setStatusText(text); }, parent);
     result = pass(in, target.outputWorkFile(), monitor);
   }
-  reportPassOutcome(parent, result);
+  reportPassOutcome(result);
   return result;
 }
 
@@ -39,17 +40,18 @@ ButtonsHeld::~ButtonsHeld() {
     if (b) b->setEnabled(true);
 }
 
-void reportPassOutcome(QWidget* parent, const PassResult& result) {
+void reportPassOutcome(const PassResult& result) {
+  const std::string caption = result.title.empty() ? std::string(kAppTitle) : result.title;
   switch (result.outcome) {
     case PassOutcome::Completed:
     case PassOutcome::NoInput:
       return;
     case PassOutcome::Cancelled:
     case PassOutcome::Refused:
-      showMessage(parent, result.message, MessageIcon::Information, result.title);
+      dialogs().message(result.message, caption, Buttons::Ok, Icon::Information);
       return;
     case PassOutcome::Failed:
-      showMessage(parent, result.message, MessageIcon::Exclamation, result.title);
+      dialogs().message(result.message, caption, Buttons::Ok, Icon::Exclamation);
       return;
   }
 }

@@ -42,6 +42,6 @@ class ButtonsHeld {
 };
 
 // The message box of an outcome other than Completed (none for NoInput).
-void reportPassOutcome(QWidget* parent, const transform::PassResult& result);
+void reportPassOutcome(const transform::PassResult& result);
 
 }  // namespace lathwick::gui

@@ -9,13 +9,14 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "shell/settings_table.h"
+#include "shell/startup.h"
 #include "transform/gui/cancel_flag.h"
 #include "transform/gui/combo_history.h"
 #include "transform/gui/document_pass.h"
 #include "transform/gui/key_filters.h"
-#include "transform/gui/message_box.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/operate.h"
@@ -142,7 +143,7 @@ void frmOperate::forget(const TransformTarget* target) {
 
 void frmOperate::onOperatorChosen() {
   if (cboOperators_->currentText() == "/" && leadingValue(toBytes(cboValue_->currentText())) == 0) {
-    showMessage(this, kDivisionByZeroOnChoice, MessageIcon::Information);
+    dialogs().message(kDivisionByZeroOnChoice, kAppTitle, Buttons::Ok, Icon::Information);
     cboOperators_->setCurrentText("+");
   }
 }
@@ -154,7 +155,7 @@ void frmOperate::onOK() {
                                toBytes(cboValue_->currentText()), toBytes(cboFormat_->currentText())};
   const OperateValidation check = validateOperate(entries);
   if (!check.message.empty()) {
-    showMessage(this, check.message);
+    dialogs().message(check.message, kAppTitle, Buttons::Ok, Icon::None);
     if (check.resetOperator) cboOperators_->setCurrentText("+");
     return;
   }
@@ -188,7 +189,8 @@ void frmOperate::onOK() {
     }
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {
-    showMessage(this, passErrorMessage(e.number(), e.description(), kOperateErrorEnding), MessageIcon::Exclamation);
+    dialogs().message(passErrorMessage(e.number(), e.description(), kOperateErrorEnding), kAppTitle, Buttons::Ok,
+                      Icon::Exclamation);
   }
 }
 

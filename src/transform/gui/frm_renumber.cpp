@@ -12,12 +12,13 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "shell/settings_table.h"
+#include "shell/startup.h"
 #include "transform/gui/cancel_flag.h"
 #include "transform/gui/document_pass.h"
 #include "transform/gui/key_filters.h"
-#include "transform/gui/message_box.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/renumber.h"
@@ -138,7 +139,7 @@ void frmRenumber::onOK() {
   RenumberRequest request;
   request.sequenceText = trimBlanks(toBytes(txtSeqChr_->text()));
   if (request.sequenceText.empty()) {
-    showMessage(this, kSequenceRequired, MessageIcon::None, kSequenceRequiredTitle);
+    dialogs().message(kSequenceRequired, kSequenceRequiredTitle, Buttons::Ok, Icon::None);
     return;
   }
   request.skipCharacters = toBytes(txtSkipLines_->text());
@@ -149,7 +150,7 @@ void frmRenumber::onOK() {
     request.start = wholeNumber(txtStart_->text());
     request.increment = wholeNumber(txtStep_->text());
   } catch (const AppError&) {
-    showMessage(this, kRenumberFailed, MessageIcon::Exclamation);
+    dialogs().message(kRenumberFailed, kAppTitle, Buttons::Ok, Icon::Exclamation);
     return;
   }
   const auto result = runDocumentPass(target, nullptr, this,

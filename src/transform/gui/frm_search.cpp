@@ -10,13 +10,14 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "shell/history.h"
 #include "shell/settings_table.h"
+#include "shell/startup.h"
 #include "transform/gui/cancel_flag.h"
 #include "transform/gui/combo_history.h"
 #include "transform/gui/document_pass.h"
-#include "transform/gui/message_box.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/search_match.h"
@@ -222,7 +223,7 @@ void frmSearch::act(FindStep step) {
       showFor(*target_);
       return;
     case FindStep::SearchComplete:
-      showMessage(this, kSearchComplete);
+      dialogs().message(kSearchComplete, kAppTitle, Buttons::Ok, Icon::None);
       unload();
       return;
   }
@@ -279,8 +280,9 @@ void frmSearch::runPass(bool highlight) {
     }
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {
-    showMessage(this, highlight ? highlightCommandError(e.number(), e.description())
-                                : replaceCommandError(e.number(), e.description()));
+    dialogs().message(highlight ? highlightCommandError(e.number(), e.description())
+                                : replaceCommandError(e.number(), e.description()),
+                      kAppTitle, Buttons::Ok, Icon::None);
   }
 }
 

@@ -1,5 +1,6 @@
-#include "shell/gui/dialogs.h"
+#include "platform/gui/dialogs.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -10,7 +11,25 @@
 namespace lathwick::gui {
 namespace {
 QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
+
+class QtDialogs : public Dialogs {
+ public:
+  Answer message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
+  std::optional<std::string> chooseFile(const FileRequest& request) override;
+  void openInBrowser(const std::string& path) override;
+};
+
+Dialogs*& current() {
+  static QtDialogs real;
+  static Dialogs* inUse = &real;
+  return inUse;
+}
 }  // namespace
+
+Dialogs& dialogs() { return *current(); }
+
+ScopedDialogs::ScopedDialogs(Dialogs& replacement) : previous_(current()) { current() = &replacement; }
+ScopedDialogs::~ScopedDialogs() { current() = previous_; }
 
 std::string qtFilterOf(const std::string& filter) {
   // Pairs of description|pattern. The dialog filters by the patterns written in brackets after
@@ -42,7 +61,7 @@ std::string qtFilterOf(const std::string& filter) {
 }
 
 Answer QtDialogs::message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
-  QMessageBox box(parent_);
+  QMessageBox box(QApplication::activeWindow());
   box.setWindowTitle(q(caption));
   box.setText(q(text));
   switch (icon) {
@@ -69,7 +88,7 @@ Answer QtDialogs::message(const std::string& text, const std::string& caption, B
 }
 
 std::optional<std::string> QtDialogs::chooseFile(const FileRequest& request) {
-  QFileDialog dialog(parent_, q(request.title), q(request.initialFolder), q(qtFilterOf(request.filter)));
+  QFileDialog dialog(QApplication::activeWindow(), q(request.title), q(request.initialFolder), q(qtFilterOf(request.filter)));
   if (request.save) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);  // the dialog itself asks before overwriting

@@ -1,11 +1,9 @@
 #pragma once
-// The one seam through which the editor asks the user anything: message boxes, the open and
-// save dialogs, and handing the help page to the system's browser. The real windows use
-// QtDialogs; tests install their own answers.
+// The one seam through which the program asks the user anything: message boxes, the open and
+// save dialogs, and handing the help page to the system's browser. Every window goes through
+// dialogs(): the real boxes, unless a test has put its own answers in place with ScopedDialogs.
 #include <optional>
 #include <string>
-
-class QWidget;
 
 namespace lathwick::gui {
 
@@ -31,15 +29,19 @@ class Dialogs {
   virtual void openInBrowser(const std::string& path) = 0;
 };
 
-class QtDialogs : public Dialogs {
+// The dialogs in use. The real ones open over the active window.
+Dialogs& dialogs();
+
+// Puts `replacement` in use for its lifetime, then gives back the previous dialogs.
+class ScopedDialogs {
  public:
-  explicit QtDialogs(QWidget* parent) : parent_(parent) {}
-  Answer message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
-  std::optional<std::string> chooseFile(const FileRequest& request) override;
-  void openInBrowser(const std::string& path) override;
+  explicit ScopedDialogs(Dialogs& replacement);
+  ~ScopedDialogs();
+  ScopedDialogs(const ScopedDialogs&) = delete;
+  ScopedDialogs& operator=(const ScopedDialogs&) = delete;
 
  private:
-  QWidget* parent_;
+  Dialogs* previous_;
 };
 
 // "Text (*.*)|*.*|Text (*.TXT)|*.TXT" -> "Text (*);;Text (*.TXT)": the dialog's own form, in
