@@ -5,20 +5,18 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
 
 #include "document/gui/reload_document.h"
+#include "generated_program.h"
+#include "gui_bench_main.h"
 #include "platform/gui/rich_text_box.h"
 
 namespace {
 
 using namespace lathwick;
-
-constexpr int kLines = 1000000;
 
 // The colorizer's attribute strings of a typical scheme (modes view: one per line).
 const char* const kAttributes[] = {
@@ -26,53 +24,32 @@ const char* const kAttributes[] = {
     "\\f0\\fs20\\cf3\\b0\\i0\\strike0\\ul0 ", "\\f1\\fs20\\cf4\\b0\\i\\strike0\\ul0 ",
 };
 
+// The same program twice: as plain text, and as the colorizer would have written it.
 struct Files {
-  std::string folder, colorized, plain, undo;
-};
-
-const Files& files() {
-  static const Files f = [] {
-    Files out;
-    out.folder = (std::filesystem::temp_directory_path() / "lathwick-bench-reload").string();
-    std::filesystem::create_directories(out.folder);
-    out.colorized = out.folder + "/TEMP3.TXT";
-    out.plain = out.folder + "/TEMP2.TXT";
-    out.undo = out.folder + "/UNDO.RTF";
-    std::ofstream rtf(out.colorized, std::ios::binary);
-    std::ofstream txt(out.plain, std::ios::binary);
+  bench::ScratchFolder folder{"lathwick-bench-reload"};
+  std::string colorized = folder.file("TEMP3.TXT");
+  std::string plain = folder.file("TEMP2.TXT");
+  std::string undo = folder.file("UNDO.RTF");
+  Files() {
+    std::ofstream rtf(colorized, std::ios::binary);
+    std::ofstream txt(plain, std::ios::binary);
     rtf << "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\fmodern Courier New;}{\\f1\\fswiss Arial;}}\r\n"
            "{\\colortbl\\red0\\green0\\blue0;\\red255\\green0\\blue0;\\red0\\green128\\blue0;"
            "\\red0\\green0\\blue255;\\red128\\green128\\blue128;}\r\n"
            "\\deflang1033\\pard\\plain\\li200 \\f0\\fs20\\cf0\\b0\\i0\\strike0\\ul0\r\n";
-    char line[96];
-    for (int i = 0; i < kLines; ++i) {
-      if (i % 10 == 9) {
-        std::snprintf(line, sizeof line, "(TOOL %d DIA 12.5)", i % 40);
-      } else {
-        std::snprintf(line, sizeof line, "N%d G0%d X%d.%03d Y-%d.%03d F300", i * 10, i % 4, i % 500, i % 997,
-                      i % 300, i % 991);
-      }
+    constexpr long kLines = bench::kMillionLines;
+    bench::generateProgram(bench::ProgramStyle::ToolComments, kLines, [&](long i, const std::string& line) {
       const char* attribute = kAttributes[i % 10 == 9 ? 3 : (i % 4 == 0 ? 1 : (i % 3 == 0 ? 2 : 0))];
       rtf << (i ? "\\par\\li200 " : "\\li200 ") << attribute << line << "\r\n";
       txt << line << (i + 1 < kLines ? "\r\n" : "");
-    }
+    });
     rtf << "\\par}\r\n";
-    return out;
-  }();
-  return f;
-}
-
-long peakResidentMegabytes() {
-  std::ifstream status("/proc/self/status");
-  std::string key;
-  long kb = 0;
-  while (status >> key) {
-    if (key == "VmHWM:") {
-      status >> kb;
-      break;
-    }
   }
-  return kb / 1024;
+};
+
+const Files& files() {
+  static const Files f;
+  return f;
 }
 
 std::unique_ptr<RichTextBox> shownBox() {
@@ -96,7 +73,7 @@ void BM_ReloadColorized(benchmark::State& state) {
     ReloadDocument(*box, f.colorized, FileKind::RichText, style, f.undo);
   }
   state.counters["lines"] = box->lineCount();
-  state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
+  state.counters["peak_MB"] = bench::peakResidentMegabytes();
 }
 
 // A colorized program edited by hand, then transformed again: the snapshot must write its
@@ -113,35 +90,27 @@ void BM_ReloadOverEditedColorized(benchmark::State& state) {
     state.ResumeTiming();
     ReloadDocument(*box, f.colorized, FileKind::RichText, style, f.undo);
   }
-  state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
+  state.counters["peak_MB"] = bench::peakResidentMegabytes();
 }
 
-// The colorized load alone (no snapshot: the control is empty).
+// A load alone, into an emptied control (no snapshot).
+void loadIntoEmptyBox(benchmark::State& state, const std::string& path, FileKind kind) {
+  auto box = shownBox();
+  for (auto _ : state) {
+    state.PauseTiming();
+    box->setTextBytes("");
+    state.ResumeTiming();
+    box->loadFile(path, kind);
+  }
+  state.counters["lines"] = box->lineCount();
+  state.counters["peak_MB"] = bench::peakResidentMegabytes();
+}
+
 void BM_LoadColorizedRichText(benchmark::State& state) {
-  const Files& f = files();
-  auto box = shownBox();
-  for (auto _ : state) {
-    state.PauseTiming();
-    box->setTextBytes("");
-    state.ResumeTiming();
-    box->loadFile(f.colorized, FileKind::RichText);
-  }
-  state.counters["lines"] = box->lineCount();
-  state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
+  loadIntoEmptyBox(state, files().colorized, FileKind::RichText);
 }
 
-void BM_LoadPlainText(benchmark::State& state) {
-  const Files& f = files();
-  auto box = shownBox();
-  for (auto _ : state) {
-    state.PauseTiming();
-    box->setTextBytes("");
-    state.ResumeTiming();
-    box->loadFile(f.plain, FileKind::PlainText);
-  }
-  state.counters["lines"] = box->lineCount();
-  state.counters["peak_MB"] = static_cast<double>(peakResidentMegabytes());
-}
+void BM_LoadPlainText(benchmark::State& state) { loadIntoEmptyBox(state, files().plain, FileKind::PlainText); }
 
 // Typing near the end of the colorized program: each keystroke must stay in milliseconds.
 void BM_KeystrokeNearEnd(benchmark::State& state) {
@@ -165,11 +134,5 @@ BENCHMARK(BM_LoadPlainText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_LoadColorizedRichText)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_ReloadColorized)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_ReloadOverEditedColorized)->Unit(benchmark::kMillisecond)->Iterations(3);
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+
+int main(int argc, char** argv) { return lathwick::bench::runWithApplication(argc, argv); }

@@ -11,7 +11,7 @@
 #include "format/bundled_schemes.h"
 #include "format/pass_frame.h"
 #include "format/rich_text_builder.h"
-#include "platform/atomic_file.h"
+#include "generated_program.h"
 #include "transform/junk_filter.h"
 #include "transform/operate.h"
 #include "transform/renumber.h"
@@ -23,39 +23,19 @@ namespace {
 using namespace lathwick;
 using namespace lathwick::transform;
 
-const std::filesystem::path& folder() {
-  static const std::filesystem::path dir = [] {
-    auto d = std::filesystem::temp_directory_path() / "lathwick-bench-transform";
-    std::filesystem::create_directories(d);
-    return d;
-  }();
+const bench::ScratchFolder& folder() {
+  static const bench::ScratchFolder dir("lathwick-bench-transform");
   return dir;
 }
-std::string inputPath() { return (folder() / "program.nc").string(); }
-std::string outputPath() { return (folder() / "out.txt").string(); }
+std::string inputPath() { return folder().file("program.nc"); }
+std::string outputPath() { return folder().file("out.txt"); }
 
-// A milling program: numbered blocks of linear moves, a comment every 50 lines.
+// The milling program, written once for all the passes of the run.
 void makeProgram() {
   static bool made = false;
   if (made) return;
-  std::string text;
-  text.reserve(40u << 20);
-  char line[96];
-  text += "%\r\nO1000 (GENERATED)\r\n";
-  for (long i = 1; i <= 999998; ++i) {
-    int n;
-    if (i % 50 == 0)
-      n = std::snprintf(line, sizeof line, "N%ld (PASS %ld DEPTH %.2f)\r\n", i * 10, i / 50, -0.25 * (i % 7));
-    else if (i % 10 == 1)
-      n = std::snprintf(line, sizeof line, "N%ld G01 X%.3f Y%.3f Z%.2f F%d\r\n", i * 10, (i % 2000) * 0.125,
-                        -((i * 7) % 1500) * 0.0625, -0.25 * (i % 7), 100 + static_cast<int>(i % 9) * 50);
-    else
-      n = std::snprintf(line, sizeof line, "N%ld X%.3f Y%.3f Z%.2f\r\n", i * 10, (i % 2000) * 0.125,
-                        -((i * 7) % 1500) * 0.0625, -0.25 * (i % 7));
-    text.append(line, static_cast<size_t>(n));
-  }
-  writeFileAtomically(inputPath(), text);
-  std::printf("input: %s, %zu bytes, 1000000 lines\n", inputPath().c_str(), text.size());
+  const auto bytes = bench::writeProgram(inputPath(), bench::ProgramStyle::Milling);
+  std::printf("input: %s, %ju bytes, %ld lines\n", inputPath().c_str(), bytes, bench::kMillionLines);
   std::fflush(stdout);
   made = true;
 }
@@ -95,17 +75,23 @@ void awk(benchmark::State& state, const std::string& program) {
   }
 }
 
+// The pass once per iteration on the same input, each time into a fresh output.
+template <class Pass>
+void timePass(benchmark::State& state, Pass pass) {
+  makeProgram();
+  for (auto _ : state) {
+    freshOutput(state);
+    expectDone(state, pass());
+  }
+}
+
 // ---- renumber: every block gets N from 100 by 10 ----
 void renumberLathwick(benchmark::State& state) {
-  makeProgram();
   RenumberRequest req;
   req.start = 100;
   req.increment = 10;
   req.method = RenumberMethod::ExistingNumbers;
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runRenumber(inputPath(), outputPath(), req, silentMonitor()));
-  }
+  timePass(state, [&] { return runRenumber(inputPath(), outputPath(), req, silentMonitor()); });
 }
 void renumberAwk(benchmark::State& state) {
   // (match and substr: mawk's sub() with a computed replacement is pathologically slow)
@@ -114,7 +100,6 @@ void renumberAwk(benchmark::State& state) {
 
 // ---- operate: X, Y and Z times 2, "##0.0###", marked ----
 void operateLathwick(benchmark::State& state) {
-  makeProgram();
   const RichTextFrame f = frame();
   OperateRequest req;
   req.addresses = "XYZ";
@@ -122,10 +107,7 @@ void operateLathwick(benchmark::State& state) {
   req.operand = 2;
   req.format = "##0.0###";
   req.displayLineCount = 0;
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runOperate(inputPath(), outputPath(), req, f, silentMonitor()));
-  }
+  timePass(state, [&] { return runOperate(inputPath(), outputPath(), req, f, silentMonitor()); });
 }
 void operateAwk(benchmark::State& state) {
   awk(state, R"(BEGIN{print "{\\rtf1 header"} {sub(/\r$/,""); for (i=1;i<=NF;i++) { c=substr($i,1,1); if (c=="X"||c=="Y"||c=="Z") $i=c "\\f0\\cf10 " sprintf("%.4f", substr($i,2)*2) "\\plain\\f0\\cf0 " } printf "\\par\\li0 %s\r\n", $0} END{print "\\par}"})");
@@ -133,16 +115,12 @@ void operateAwk(benchmark::State& state) {
 
 // ---- replace all: every "X" becomes "U", marked (one per line) ----
 void replaceLathwick(benchmark::State& state) {
-  makeProgram();
   const RichTextFrame f = frame();
   SearchRequest req;
   req.findText = "X";
   req.replaceText = "U";
   req.displayLineCount = 0;
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runReplaceAll(inputPath(), outputPath(), req, f, silentMonitor()));
-  }
+  timePass(state, [&] { return runReplaceAll(inputPath(), outputPath(), req, f, silentMonitor()); });
 }
 void replaceAwk(benchmark::State& state) {
   awk(state, R"(BEGIN{print "{\\rtf1 header"} {sub(/\r$/,""); gsub(/[\\{}]/, "\\\\&"); gsub(/X/, "\\f0\\cf10 U\\plain\\f0\\cf0 "); printf "\\par\\li0 %s\r\n", $0} END{print "\\par}"})");
@@ -150,21 +128,13 @@ void replaceAwk(benchmark::State& state) {
 
 // ---- add spaces and remove spaces ----
 void addSpacesLathwick(benchmark::State& state) {
-  makeProgram();
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runAddSpaces(inputPath(), outputPath(), "(", silentMonitor()));
-  }
+  timePass(state, [&] { return runAddSpaces(inputPath(), outputPath(), "(", silentMonitor()); });
 }
 void addSpacesAwk(benchmark::State& state) {
   awk(state, R"({sub(/\r$/,""); s=$0; o=""; while (match(s, /[0-9.][A-Za-z]/)) { o=o substr(s,1,RSTART) " "; s=substr(s,RSTART+1) } printf "%s%s\r\n", o, s})");
 }
 void removeSpacesLathwick(benchmark::State& state) {
-  makeProgram();
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runRemoveSpaces(inputPath(), outputPath(), "(", silentMonitor()));
-  }
+  timePass(state, [&] { return runRemoveSpaces(inputPath(), outputPath(), "(", silentMonitor()); });
 }
 void removeSpacesAwk(benchmark::State& state) {
   awk(state, R"({sub(/\r$/,""); p=index($0,"("); if (p) { c=substr($0,1,p); r=substr($0,p+1) } else { c=$0; r="" } gsub(/ /,"",c); printf "%s%s\r\n", c, r})");
@@ -172,11 +142,7 @@ void removeSpacesAwk(benchmark::State& state) {
 
 // ---- junk filter ----
 void junkLathwick(benchmark::State& state) {
-  makeProgram();
-  for (auto _ : state) {
-    freshOutput(state);
-    expectDone(state, runJunkFilter(inputPath(), outputPath(), silentMonitor()));
-  }
+  timePass(state, [&] { return runJunkFilter(inputPath(), outputPath(), silentMonitor()); });
 }
 void junkAwk(benchmark::State& state) {
   awk(state, R"({gsub(/[^ -~]/,""); printf "%s\r\n", $0})");
