@@ -18,7 +18,9 @@ void expectWellFormed(std::span<const MenuEntry> table) {
     const MenuEntry& e = table[i];
     EXPECT_TRUE(seen.insert({e.name, e.index}).second) << "duplicate " << e.name << "(" << e.index << ")";
     EXPECT_LE(e.level, previousLevel + 1) << e.name << " skips a level";
-    if (e.isSeparator()) EXPECT_FALSE(hasChildren(table, i)) << e.name;
+    if (e.isSeparator()) {
+      EXPECT_FALSE(hasChildren(table, i)) << e.name;
+    }
     previousLevel = e.level;
   }
   for (int i = 0; i < kRecentFileEntries; ++i) EXPECT_TRUE(seen.count({"mnuRecentFile", i})) << i;
