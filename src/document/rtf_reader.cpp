@@ -1,34 +1,23 @@
 // The rich-text reader. One pass over the bytes with a stack of group states; text goes straight
 // into the document, formats are interned as they first carry text. Plain text between control
 // words is copied in blocks, so the colorizer's large output loads at memory speed.
+// The reader's state is declared in rtf_reader_state.h and its font and colour tables are read in
+// rtf_reader_tables.cpp; the per-byte pass stays here, private to this file, so the compiler can
+// fold it into one loop.
 #include "document/rtf_reader.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <climits>
-#include <unordered_map>
 
-#include "document/rtf_code_pages.h"
-#include "document/rtf_control_words.h"
+#include "document/rtf_reader_state.h"
 #include "document/rtf_source_file.h"
 
 namespace lathwick {
 namespace {
 
 using rtf::Word;
-
-// NestedRowProperties is skipped like any other destination, except that the end of a nested
-// table row it holds (\nestrow) still ends a line of the text.
-enum class Destination : unsigned char { Text, FontTable, ColourTable, Skip, NestedRowProperties };
-
-struct GroupState {
-  RtfCharFormat format;
-  Destination destination = Destination::Text;
-  int unicodeSkip = 1;  // \ucN: fallback characters after each \uN
-  int codePage = kCodePageWindows1252;
-  int indentTwips = 0;
-};
+using Destination = detail::RtfDestination;
 
 constexpr std::size_t kMaxDepth = 1024;  // deeper groups share their parent's state
 constexpr int kMaxControlWordLength = 32;
@@ -54,12 +43,9 @@ int hexValue(unsigned char c) {
   return -1;
 }
 
-class Reader {
+class Reader : private detail::RtfReaderState {
  public:
-  explicit Reader(std::string_view rtf) : p_(rtf.data()), end_(rtf.data() + rtf.size()) {
-    doc_.text.reserve(rtf.size());  // the text is never longer than its source
-    stack_.reserve(64);
-  }
+  explicit Reader(std::string_view rtf) : RtfReaderState(rtf) {}
 
   RtfDocument run() {
     while (p_ < end_) {
@@ -147,37 +133,6 @@ class Reader {
     if (c < 0x20 && c != '\t') return;  // line ends and stray control bytes are not text
     textByte(c);
   }
-
-  // Text inside the font table (names and entry separators).
-  void tableText(const char* from, const char* to) {
-    if (state_.destination != Destination::FontTable) return;
-    for (const char* q = from; q < to; ++q) {
-      if (*q == ';') {
-        commitFont();
-      } else if (static_cast<unsigned char>(*q) >= 0x20) {
-        fontName_ += *q;
-      }
-    }
-  }
-
-  // Words of the document body found inside the font or colour table: the table was cut short
-  // (a scheme header longer than its field), so the table ends here and the body begins.
-  void endTruncatedTable(Word word) {
-    switch (word) {
-      case Word::Par: case Word::Pard: case Word::Plain: case Word::LeftIndent: case Word::FontSize:
-      case Word::ColourFore: case Word::Bold: case Word::Italic: case Word::Underline:
-      case Word::UnderlineNone: case Word::Strike: case Word::Line: case Word::Tab:
-        break;
-      case Word::Font:
-        if (state_.destination == Destination::ColourTable) break;
-        return;
-      default:
-        return;
-    }
-    if (state_.destination == Destination::FontTable) commitFont();
-    state_.destination = Destination::Text;
-  }
-
   // One character of text in the current code page (from the source or a \'hh escape).
   void textByte(unsigned char b) {
     if (state_.destination != Destination::Text) {
@@ -505,44 +460,6 @@ class Reader {
     return false;
   }
 
-  void forgetFormatRuns() {
-    for (Memo& m : memos_) m.length = 0;
-  }
-
-  // ---- font and colour tables ------------------------------------------------------------
-  void commitFont() {
-    if (fontNumber_ != INT_MIN) {
-      forgetFormatRuns();
-      std::string name = fontName_;
-      const auto first = name.find_first_not_of(' ');
-      name = first == std::string::npos ? std::string() : name.substr(first);
-      while (!name.empty() && name.back() == ' ') name.pop_back();
-      const int cp = fontCodePage_ != 0 ? fontCodePage_ : fontCharsetPage_;
-      if (!name.empty() || doc_.fonts.count(fontNumber_) == 0) doc_.fonts[fontNumber_] = RtfFont{name, cp};
-      if (fontNumber_ >= 0 && fontNumber_ < 4096) {
-        if (fontPages_.size() <= static_cast<std::size_t>(fontNumber_)) fontPages_.resize(fontNumber_ + 1, 0);
-        fontPages_[fontNumber_] = cp;
-      }
-    }
-    fontNumber_ = INT_MIN;
-    fontName_.clear();
-    fontCodePage_ = 0;
-    fontCharsetPage_ = 0;
-  }
-
-  void commitColour() {
-    forgetFormatRuns();
-    colours_.push_back(colour_.given ? colour_.rgb : kAutoColour);
-    colour_ = {};
-  }
-
-  void refreshCodePage() {
-    const int font = state_.format.font;
-    int cp = 0;
-    if (font >= 0 && static_cast<std::size_t>(font) < fontPages_.size()) cp = fontPages_[font];
-    state_.codePage = cp != 0 ? cp : documentCodePage_;
-  }
-
   void finish() {
     commitFont();
     if (lastBreakEnd_ != 0 && lastBreakEnd_ == doc_.text.size()) {
@@ -551,51 +468,6 @@ class Reader {
     }
     while (!doc_.runs.empty() && doc_.runs.back().start >= doc_.text.size()) doc_.runs.pop_back();
   }
-
-  struct Memo {
-    const char* bytes = nullptr;
-    std::size_t length = 0;  // 0: empty
-    std::uint64_t prefix = 0;
-    RtfCharFormat format;
-  };
-
-  struct PendingColour {
-    std::uint32_t rgb = 0;
-    bool given = false;
-  };
-
-  const char* p_;
-  const char* end_;
-  RtfDocument doc_;
-  GroupState state_;
-  std::vector<GroupState> stack_;
-  std::size_t overflowDepth_ = 0;
-  int unicodeSkipLeft_ = 0;
-  bool pendingLead_ = false;
-  bool formatDirty_ = true;
-  bool indentKnown_ = false;
-  std::size_t lastBreakEnd_ = 0;
-  int documentCodePage_ = kCodePageWindows1252;
-  int defaultFont_ = 0;
-  // font table entry being read
-  int fontNumber_ = INT_MIN;
-  std::string fontName_;
-  int fontCodePage_ = 0;
-  int fontCharsetPage_ = 0;
-  std::vector<int> fontPages_;
-  // colour table
-  std::vector<std::uint32_t> colours_;
-  PendingColour colour_;
-  // runs of format words, and the ones already seen
-  const char* wordStart_ = nullptr;
-  const char* runStart_ = nullptr;
-  unsigned runFields_ = 0;
-  std::array<Memo, 8> memos_{};
-  std::size_t nextMemo_ = 0;
-  // interned formats
-  std::unordered_map<std::uint64_t, std::uint32_t> formatIndexes_;
-  std::uint64_t lastKey_ = ~0ull;
-  std::uint32_t lastIndex_ = 0;
 };
 
 }  // namespace
