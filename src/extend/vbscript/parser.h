@@ -93,6 +93,8 @@ class Parser {
   Block inlineStatements(bool stopAtElse);
   StmtPtr selectStatement();
   StmtPtr forStatement();
+  std::unique_ptr<NameExpr> forVariable();
+  Block forBody(int& forDepth);
   StmtPtr doStatement();
   StmtPtr whileStatement();
   StmtPtr withStatement();

@@ -373,25 +373,15 @@ StmtPtr Parser::forStatement() {
   int& forDepth = scope_ ? scope_->forDepth : topForDepth_;
   if (acceptKw(Kw::Each)) {
     auto s = at<ForEachStmt>(start);
-    if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
-    s->var = nameNode(take(), true);
-    if (is(Tok::LParen) || is(Tok::Dot)) fail(ce::kInvalidForVar);
+    s->var = forVariable();
     expectKw(Kw::In, ce::kExpectedIn);
     s->group = expression();
     endStatement();
-    ++forDepth;
-    s->body = block();
-    --forDepth;
-    if (!acceptKw(Kw::Next)) {
-      if (is(Tok::End)) fail(ce::kExpectedNext);
-      unexpectedTerminator();
-    }
+    s->body = forBody(forDepth);
     return s;
   }
   auto s = at<ForStmt>(start);
-  if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
-  s->var = nameNode(take(), true);
-  if (is(Tok::LParen) || is(Tok::Dot)) fail(ce::kInvalidForVar);
+  s->var = forVariable();
   expect(Tok::Eq, ce::kExpectedEq);
   s->from = expression();
   expectKw(Kw::To, ce::kExpectedTo);
@@ -401,14 +391,28 @@ StmtPtr Parser::forStatement() {
     s->step = expression();
   }
   endStatement();
+  s->body = forBody(forDepth);
+  return s;
+}
+
+// The loop variable of For and For Each: a plain name, not an element or a member.
+std::unique_ptr<NameExpr> Parser::forVariable() {
+  if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
+  auto var = nameNode(take(), true);
+  if (is(Tok::LParen) || is(Tok::Dot)) fail(ce::kInvalidForVar);
+  return var;
+}
+
+// The statements up to Next; forDepth tells Exit For whether it is inside a loop.
+Block Parser::forBody(int& forDepth) {
   ++forDepth;
-  s->body = block();
+  auto body = block();
   --forDepth;
   if (!acceptKw(Kw::Next)) {
     if (is(Tok::End)) fail(ce::kExpectedNext);
     unexpectedTerminator();
   }
-  return s;
+  return body;
 }
 
 StmtPtr Parser::doStatement() {
