@@ -112,4 +112,16 @@ void writeNumberingSettings(SettingsStore& store, const NumberingSettings& n) {
   store.save(kNumbering, "Method", std::to_string(n.method));
 }
 
+OperateSettings readOperateSettings(const SettingsStore& store) {
+  OperateSettings o;
+  o.address = store.get(kOperate, "Address", o.address);
+  o.op = store.get(kOperate, "Operators", o.op);
+  return o;
+}
+
+void writeOperateSettings(SettingsStore& store, const OperateSettings& o) {
+  store.save(kOperate, "Address", o.address);
+  store.save(kOperate, "Operators", o.op);
+}
+
 }  // namespace lathwick

@@ -53,4 +53,12 @@ struct NumberingSettings {
 NumberingSettings readNumberingSettings(const SettingsStore& store);
 void writeNumberingSettings(SettingsStore& store, const NumberingSettings& settings);
 
+// The operate dialog's remembered address letters and operator.
+struct OperateSettings {
+  std::string address = "XYZ";
+  std::string op = "*";
+};
+OperateSettings readOperateSettings(const SettingsStore& store);
+void writeOperateSettings(SettingsStore& store, const OperateSettings& settings);
+
 }  // namespace lathwick

@@ -28,10 +28,6 @@ using namespace lathwick::transform;
 
 namespace {
 
-inline constexpr const char* kAddressKey = "Address";
-inline constexpr const char* kOperatorsKey = "Operators";
-inline constexpr const char* kDefaultAddress = "XYZ";
-inline constexpr const char* kDefaultOperator = "*";
 inline constexpr const char* kDefaultValue = "1";
 inline constexpr const char* kDefaultFormat = "##0.0###";
 
@@ -114,10 +110,12 @@ frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(paren
 }
 
 void frmOperate::loadFields() {
-  loadComboHistory(*cboAddress_, settings_, kDefaultAddress);
-  const std::string storedAddress = settings_.get(kOperate, kAddressKey);
-  if (!storedAddress.empty()) cboAddress_->setEditText(fromBytes(storedAddress));
-  const int op = cboOperators_->findText(fromBytes(settings_.get(kOperate, kOperatorsKey, kDefaultOperator)));
+  // The history's default is the table's; a remembered address then takes the edit line.
+  loadComboHistory(*cboAddress_, settings_, OperateSettings{}.address);
+  const OperateSettings stored = readOperateSettings(settings_);
+  if (settings_.has(kOperate, "Address") && !stored.address.empty())
+    cboAddress_->setEditText(fromBytes(stored.address));
+  const int op = cboOperators_->findText(fromBytes(stored.op));
   cboOperators_->setCurrentIndex(op >= 0 ? op : 0);
   loadComboHistory(*cboValue_, settings_, kDefaultValue);
   loadComboHistory(*cboFormat_, settings_, kDefaultFormat);
@@ -159,8 +157,7 @@ void frmOperate::onOK() {
     if (check.resetOperator) cboOperators_->setCurrentText("+");
     return;
   }
-  settings_.save(kOperate, kAddressKey, entries.address);
-  settings_.save(kOperate, kOperatorsKey, entries.op);
+  writeOperateSettings(settings_, {entries.address, entries.op});
   for (QComboBox* box : {cboAddress_, cboValue_, cboFormat_}) updateComboHistory(*box, settings_, kOperateHistoryLength);
 
   try {
