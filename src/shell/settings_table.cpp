@@ -112,6 +112,12 @@ void writeNumberingSettings(SettingsStore& store, const NumberingSettings& n) {
   store.save(kNumbering, "Method", std::to_string(n.method));
 }
 
+int readSearchFlags(const SettingsStore& store) {
+  return readOr(store, kStartup, "search", 0, [](const std::string& t) { return int(toInt16(t)); });
+}
+
+void writeSearchFlags(SettingsStore& store, int flags) { store.save(kStartup, "search", std::to_string(flags)); }
+
 OperateSettings readOperateSettings(const SettingsStore& store) {
   OperateSettings o;
   o.address = store.get(kOperate, "Address", o.address);

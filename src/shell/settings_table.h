@@ -53,6 +53,10 @@ struct NumberingSettings {
 NumberingSettings readNumberingSettings(const SettingsStore& store);
 void writeNumberingSettings(SettingsStore& store, const NumberingSettings& settings);
 
+// The search dialog's option flags ("search"); an unreadable value counts as no options.
+int readSearchFlags(const SettingsStore& store);
+void writeSearchFlags(SettingsStore& store, int flags);
+
 // The operate dialog's remembered address letters and operator.
 struct OperateSettings {
   std::string address = "XYZ";

@@ -47,11 +47,7 @@ QValidator* operand(QObject* p) { return asValidator(valueFilter(p)); }
 
 // The stored search options read as one switch: any option turns comment exclusion on.
 bool excludeCommentsSetting(const SettingsStore& settings) {
-  try {
-    return toInt16(settings.get(kStartup, "search", "0")) != 0;
-  } catch (const AppError&) {
-    return false;
-  }
+  return readSearchFlags(settings) != 0;
 }
 
 }  // namespace

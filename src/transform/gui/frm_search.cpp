@@ -29,8 +29,6 @@ using namespace lathwick::transform;
 
 namespace {
 
-inline constexpr const char* kSearchKey = "search";
-
 struct CheckRow {
   const char* caption;
   const char* tooltip;
@@ -129,7 +127,7 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
 }
 
 frmSearch::~frmSearch() {
-  if (loaded_) settings_.save(kStartup, kSearchKey, std::to_string(flags_));
+  if (loaded_) writeSearchFlags(settings_, flags_);
 }
 
 void frmSearch::load() {
@@ -143,7 +141,7 @@ void frmSearch::load() {
 void frmSearch::unload() {
   hide();
   if (!loaded_) return;
-  settings_.save(kStartup, kSearchKey, std::to_string(flags_));
+  writeSearchFlags(settings_, flags_);
   loaded_ = false;
   state_ = FindNextState{};
   cboFind_->setEditText({});
@@ -153,12 +151,7 @@ void frmSearch::unload() {
 }
 
 void frmSearch::readFlags() {
-  int stored = 0;
-  try {
-    stored = toInt16(settings_.get(kStartup, kSearchKey, "0"));
-  } catch (const AppError&) {
-    stored = 0;  // an unreadable value counts as no options
-  }
+  const int stored = readSearchFlags(settings_);
   for (int i = 0; i < 3; ++i) chkSearchMethod_[i]->setChecked((stored & flagOf(i)) != 0);
   flagsFromChecks();
 }
