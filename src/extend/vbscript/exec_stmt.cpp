@@ -1,5 +1,6 @@
 // Execution of statements, with On Error Resume Next applied statement by statement.
 #include <new>
+#include <optional>
 
 #include "extend/vbscript/convert.h"
 #include "extend/vbscript/runtime.h"
@@ -14,16 +15,19 @@ void absorb(Frame& f, ScriptError& e) {
   f.rt.setErr(e);
 }
 
-// Condition of If/ElseIf/While/Do: under Resume Next an error counts as true (the block runs).
-bool condition(Frame& f, const Expr& e) {
+// A condition's truth, or nothing when it failed under Resume Next (the error is in Err).
+std::optional<bool> tryCondition(Frame& f, const Expr& e) {
   if (!f.resumeNext) return truthOf(f.rt, e.eval(f));
   try {
     return truthOf(f.rt, e.eval(f));
   } catch (ScriptError& err) {
     absorb(f, err);
-    return true;
+    return std::nullopt;
   }
 }
+
+// Condition of If/ElseIf/While: under Resume Next an error counts as true (the block runs).
+bool condition(Frame& f, const Expr& e) { return tryCondition(f, e).value_or(true); }
 }  // namespace
 
 Flow execBlock(Frame& f, const Block& block) {
@@ -266,19 +270,9 @@ Flow DoStmt::exec(Frame& f) const {
   Runtime& rt = f.rt;
   while (true) {
     if (cond && !post) {
-      bool c = false;
-      bool failed = false;
-      if (!f.resumeNext) {
-        c = truthOf(rt, cond->eval(f));
-      } else {
-        try {
-          c = truthOf(rt, cond->eval(f));
-        } catch (ScriptError& e) {
-          absorb(f, e);
-          failed = true;  // the next statement is the first of the block
-        }
-      }
-      if (!failed && (until ? c : !c)) break;
+      // A failed test enters the block: the next statement is the block's first.
+      const std::optional<bool> c = tryCondition(f, *cond);
+      if (c && (until ? *c : !*c)) break;
     }
     const Flow r = execBlock(f, body);
     if (r == Flow::ExitDo && !isWhileWend) break;
@@ -286,18 +280,9 @@ Flow DoStmt::exec(Frame& f) const {
     f.current = this;
     rt.checkInterrupt();
     if (cond && post) {
-      bool c;
-      if (!f.resumeNext) {
-        c = truthOf(rt, cond->eval(f));
-      } else {
-        try {
-          c = truthOf(rt, cond->eval(f));
-        } catch (ScriptError& e) {
-          absorb(f, e);
-          break;  // the next statement is the one after Loop
-        }
-      }
-      if (until ? c : !c) break;
+      // A failed test leaves the loop: the next statement is the one after Loop.
+      const std::optional<bool> c = tryCondition(f, *cond);
+      if (!c || (until ? *c : !*c)) break;
     }
   }
   return Flow::Normal;
