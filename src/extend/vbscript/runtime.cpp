@@ -108,11 +108,7 @@ void Runtime::enterCall() {
 
 Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef me) {
   if (args.size() != p.params.size()) raise(rt::kWrongArgs);
-  enterCall();
-  struct Leave {
-    Runtime& rt;
-    ~Leave() { rt.leaveCall(); }
-  } leave{*this};
+  const CallDepth depth(*this);
   checkInterrupt();
   std::vector<Variant> storage(static_cast<size_t>(p.numSlots));
   std::vector<Variant*> slots(static_cast<size_t>(p.numSlots));

@@ -189,6 +189,16 @@ class Runtime {
   [[noreturn]] void throwInterrupt();
   void enterCall();
   void leaveCall() { --depth_; }
+  // One level of call depth for a scope: raises "Out of stack space" when too deep.
+  struct CallDepth {
+    explicit CallDepth(Runtime& rt) : rt_(rt) { rt_.enterCall(); }
+    ~CallDepth() { rt_.leaveCall(); }
+    CallDepth(const CallDepth&) = delete;
+    CallDepth& operator=(const CallDepth&) = delete;
+
+   private:
+    Runtime& rt_;
+  };
 
   // ---- errors
   void setErr(const ScriptError& e);

@@ -75,11 +75,7 @@ void Runtime::executeGlobal(const std::string& text) {
   declareUnit(u);
   Frame top(*this);
   top.unit = &u;
-  enterCall();
-  struct Leave {
-    Runtime& rt;
-    ~Leave() { rt.leaveCall(); }
-  } leave{*this};
+  const CallDepth depth(*this);
   try {
     execBlock(top, u.topLevel);
   } catch (ScriptError& e) {
@@ -100,11 +96,7 @@ Variant Runtime::evaluate(const std::string& text) {
   units.push_back(std::move(unit));
   Frame top(*this);
   top.unit = &u;
-  enterCall();
-  struct Leave {
-    Runtime& rt;
-    ~Leave() { rt.leaveCall(); }
-  } leave{*this};
+  const CallDepth depth(*this);
   return e->eval(top);
 }
 
