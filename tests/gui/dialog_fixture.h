@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "platform/file_system.h"
 #include "shell/settings_store.h"
 #include "scripted_dialogs.h"
@@ -158,5 +160,23 @@ inline std::vector<std::string> richBody(const std::string& rtf) {
   }
   return body;
 }
+
+// A dialog of type Form over a fresh settings file, with its message boxes answered by script.
+template <class Form>
+class DialogTest : public ::testing::Test {
+ protected:
+  template <class T>
+  T* child(const char* name) {
+    T* w = dialog->template findChild<T*>(name);
+    EXPECT_NE(w, nullptr) << name;
+    return w;
+  }
+
+  QApplication& app = testApp();
+  TempDir configDir;
+  SettingsStore settings{configDir.file("Lathwick.ini")};
+  ScriptedDialogs dialogs;
+  std::unique_ptr<Form> dialog = std::make_unique<Form>(settings);
+};
 
 }  // namespace lathwick::test

@@ -17,13 +17,9 @@ using lathwick::test::FakeDocument;
 
 namespace {
 
-class OperateDialog : public ::testing::Test {
+class OperateDialog : public test::DialogTest<frmOperate> {
  protected:
-  QComboBox* box(const char* name) {
-    auto* w = dialog->findChild<QComboBox*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-  }
+  QComboBox* box(const char* name) { return child<QComboBox>(name); }
   void fill(const char* address, const char* op, const char* value, const char* format) {
     box("cboAddress")->setEditText(address);
     box("cboOperators")->setCurrentText(op);
@@ -32,12 +28,6 @@ class OperateDialog : public ::testing::Test {
   }
   void ok() { dialog->findChild<QPushButton*>("cmdOK")->click(); }
   std::string status() { return dialog->findChild<QLabel*>("lblStatus")->text().toStdString(); }
-
-  QApplication& app = test::testApp();
-  test::TempDir configDir;
-  SettingsStore settings{configDir.file("Lathwick.ini")};
-  lathwick::test::ScriptedDialogs dialogs;
-  std::unique_ptr<frmOperate> dialog = std::make_unique<frmOperate>(settings);
 };
 
 TEST_F(OperateDialog, ScalesTheSelectedLinesAndKeepsTheEntries) {

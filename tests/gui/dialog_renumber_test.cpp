@@ -19,26 +19,14 @@ namespace {
 
 const std::vector<std::string> kProgram{"%", "O1000", "(SETUP)", "G00 X0", "N5 G01 X1"};
 
-class RenumberDialog : public ::testing::Test {
+class RenumberDialog : public test::DialogTest<frmRenumber> {
  protected:
-  template <class T>
-  T* child(const char* name) {
-    T* w = dialog->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-  }
   void fill(const char* start, const char* step, int method) {
     child<QLineEdit>("txtStart")->setText(start);
     child<QLineEdit>("txtStep")->setText(step);
     child<QRadioButton>(("Option1_" + std::to_string(method)).c_str())->click();
   }
   void ok() { child<QPushButton>("cmdOK")->click(); }
-
-  QApplication& app = test::testApp();
-  test::TempDir configDir;
-  SettingsStore settings{configDir.file("Lathwick.ini")};
-  lathwick::test::ScriptedDialogs dialogs;
-  std::unique_ptr<frmRenumber> dialog = std::make_unique<frmRenumber>(settings);
 };
 
 TEST_F(RenumberDialog, EachMethodOnTheSampleProgram) {

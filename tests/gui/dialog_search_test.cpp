@@ -19,26 +19,14 @@ using lathwick::test::FakeDocument;
 
 namespace {
 
-class SearchDialog : public ::testing::Test {
+class SearchDialog : public test::DialogTest<frmSearch> {
  protected:
-  template <class T>
-  T* child(const char* name) {
-    T* w = dialog->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-  }
   void enter(const char* find, const char* replace) {
     child<QComboBox>("cboFind")->setEditText(find);
     child<QComboBox>("cboReplace")->setEditText(replace);
   }
   void click(const char* name) { child<QPushButton>(name)->click(); }
   std::string label(const char* name) { return child<QLabel>(name)->text().toStdString(); }
-
-  QApplication& app = test::testApp();
-  test::TempDir configDir;
-  SettingsStore settings{configDir.file("Lathwick.ini")};
-  lathwick::test::ScriptedDialogs dialogs;
-  std::unique_ptr<frmSearch> dialog = std::make_unique<frmSearch>(settings);
 };
 
 TEST_F(SearchDialog, ReplaceAllActsOnTheSelectedLinesOnlyAndSavesTheHistories) {
