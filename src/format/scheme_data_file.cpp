@@ -7,7 +7,7 @@
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/file_system.h"
-#include "shell/startup.h"
+#include "platform/app_names.h"
 
 namespace lathwick {
 
