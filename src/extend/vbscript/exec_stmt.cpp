@@ -174,7 +174,7 @@ Flow SelectStmt::exec(Frame& f) const {
 
 namespace {
 Variant loopNumber(Runtime& rt, const Variant& v) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   return toNumeric(rt, v);
 }
 
@@ -210,13 +210,13 @@ Flow ForStmt::exec(Frame& f) const {
     absorb(f, e);
     const Flow r = execBlock(f, body);
     if (r != Flow::Normal && r != Flow::ExitFor) return r;
-    f.rt.setErr(ScriptError(rt::kForNotInit, errorText(rt::kForNotInit), kRuntimeSource));
+    f.rt.setErr(ScriptError(rt::kForLoopNotInitialized, errorText(rt::kForLoopNotInitialized), kRuntimeSource));
     return Flow::Normal;
   }
   const double last = end.number();
   const bool up = stepValue.number() >= 0;
   Variant* counter = var->writable(f);
-  if (!counter) raise(rt::kIllegalAssign, var->name);
+  if (!counter) raise(rt::kIllegalAssignment, var->name);
   // The counter takes the wider type of start and step, as start + step would.
   *counter = start;
   while (true) {
@@ -245,14 +245,14 @@ Flow ForEachStmt::exec(Frame& f) const {
     hold = g.arrValue();
     list = &hold->items;
   } else if (g.isObject() && g.objValue()) {
-    if (!g.objValue()->enumerate(rt, items)) raise(rt::kNotCollection);
+    if (!g.objValue()->enumerate(rt, items)) raise(rt::kObjectNotACollection);
     collection = true;
   } else {
-    raise(g.isObject() ? rt::kObjectRequired : rt::kNotCollection);
+    raise(g.isObject() ? rt::kObjectRequired : rt::kObjectNotACollection);
   }
   for (size_t i = 0; i < list->size(); ++i) {
     Variant* v = var->writable(f);
-    if (!v) raise(rt::kIllegalAssign, var->name);
+    if (!v) raise(rt::kIllegalAssignment, var->name);
     *v = (*list)[i];
     const Flow r = execBlock(f, body);
     if (r == Flow::ExitFor) return Flow::Normal;
@@ -316,9 +316,9 @@ Flow ReDimStmt::exec(Frame& f) const {
     std::vector<std::int32_t> bounds;
     for (const auto& b : item.bounds) {
       const Variant v = b->eval(f);
-      if (v.isNull()) raise(rt::kInvalidNull);
+      if (v.isNull()) raise(rt::kInvalidUseOfNull);
       const std::int32_t n = toLong(rt, v);
-      if (n < -1) raise(rt::kSubscript);
+      if (n < -1) raise(rt::kSubscriptOutOfRange);
       bounds.push_back(n);
     }
     GlobalEntry* e = item.var->entry;
@@ -328,14 +328,14 @@ Flow ReDimStmt::exec(Frame& f) const {
       if (!f.rt.hostGlobal(e, o, m)) e->kind = GlobalEntry::Variable;  // ReDim declares, even under Option Explicit
     }
     Variant* p = item.var->writable(f);
-    if (!p) raise(rt::kIllegalAssign, item.var->name);
+    if (!p) raise(rt::kIllegalAssignment, item.var->name);
     if (p->isArray()) {
       const ArrayData& old = *p->arrValue();
-      if (old.fixed || old.locks > 0) raise(rt::kArrayLocked);
+      if (old.fixed || old.locks > 0) raise(rt::kArrayFixedOrLocked);
       if (preserve && old.allocated()) {
-        if (old.upper.size() != bounds.size()) raise(rt::kSubscript);
+        if (old.upper.size() != bounds.size()) raise(rt::kSubscriptOutOfRange);
         for (size_t d = 0; d + 1 < bounds.size(); ++d)
-          if (old.upper[d] != bounds[d]) raise(rt::kSubscript);
+          if (old.upper[d] != bounds[d]) raise(rt::kSubscriptOutOfRange);
         ArrayData& a = p->arrayForWrite();
         a.items.resize(ArrayData::elementCount(bounds));
         a.upper = bounds;
@@ -351,7 +351,7 @@ Flow EraseStmt::exec(Frame& f) const {
   for (const auto& v : vars) {
     Variant* p = v->writable(f);
     if (!p || !p->isArray()) raise(rt::kTypeMismatch, v->name);
-    if (p->arrValue()->locks > 0) raise(rt::kArrayLocked);
+    if (p->arrValue()->locks > 0) raise(rt::kArrayFixedOrLocked);
     ArrayData& a = p->arrayForWrite();
     if (a.fixed) {
       for (auto& item : a.items) item = Variant();
