@@ -116,20 +116,17 @@ Variant fnTrim(Runtime& rt, Args& a) {
 }
 
 
-// Longest string Space and String make.
-constexpr std::int32_t kMaxMadeString = 1 << 28;
-
 Variant fnSpace(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
   if (n < 0) raise(rt::kInvalidProcedureCall);
-  if (n > kMaxMadeString) raise(14);
+  rt.noteStringGrowth(static_cast<size_t>(n), static_cast<size_t>(n));
   return Variant::str(std::string(static_cast<size_t>(n), ' '));
 }
 
 Variant fnString(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
   if (n < 0) raise(rt::kInvalidProcedureCall);
-  if (n > kMaxMadeString) raise(14);
+  rt.noteStringGrowth(static_cast<size_t>(n), static_cast<size_t>(n));
   if (a[1].isNull()) return Variant::null();
   char c;
   if (a[1].isString()) {

@@ -99,10 +99,13 @@ Flow AppendStmt::exec(Frame& f) const {
     p = target->writable(f);  // the piece may have run code that changed the variable
     if (!p || !p->isString()) {
       target->assign(f, concat(f.rt, target->eval(f), tail), false);
-    } else if (tail.isString()) {
-      p->strRef() += tail.strValue();
-    } else if (!tail.isNull()) {
-      p->strRef() += plainText(tail);
+    } else {
+      const std::string hold = tail.isString() || tail.isNull() ? std::string() : plainText(tail);
+      const std::string& text = tail.isString() ? tail.strValue() : hold;
+      f.rt.noteStringGrowth(p->strValue().size() + text.size(), text.size());
+      p = target->writable(f);  // the host's poll may have run code
+      if (p && p->isString()) p->strRef() += text;
+      else target->assign(f, concat(f.rt, target->eval(f), Variant::str(text)), false);
     }
     return Flow::Normal;
   }
@@ -115,6 +118,10 @@ Flow AppendStmt::exec(Frame& f) const {
     else if (!v.isNull()) text += plainText(v);
   }
   p = target->writable(f);
+  if (p && p->isString()) {
+    f.rt.noteStringGrowth(p->strValue().size() + text.size(), text.size());
+    p = target->writable(f);
+  }
   if (p && p->isString()) p->strRef() += text;
   else target->assign(f, concat(f.rt, target->eval(f), Variant::str(std::move(text))), false);
   return Flow::Normal;

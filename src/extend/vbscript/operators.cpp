@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "extend/vbscript/convert.h"
+#include "extend/vbscript/runtime.h"
 #include "extend/vbscript/errors.h"
 #include "platform/bytes.h"
 
@@ -110,7 +111,9 @@ Variant concat(Runtime& rt, const Variant& a0, const Variant& b0) {
   const Variant& b = b0.isObject() ? valueOf(rt, b0) : b0;
   if (a.isArray() || b.isArray()) raise(rt::kTypeMismatch);
   std::string s = plainText(a);
-  s += plainText(b);
+  const std::string tail = plainText(b);
+  rt.noteStringGrowth(s.size() + tail.size(), s.size() + tail.size());
+  s += tail;
   return Variant::str(std::move(s));
 }
 
