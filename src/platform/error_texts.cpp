@@ -9,6 +9,9 @@ namespace {
 struct ErrorText {
   int number;
   const char* text;
+  // False for errors only the program itself raises: the macro language does not know them
+  // (Err.Raise of such a number gives "Unknown runtime error").
+  bool inLanguage = true;
 };
 
 // Standard texts, sorted by number.
@@ -34,6 +37,7 @@ constexpr ErrorText kTexts[] = {
     {58, "File already exists"},
     {61, "Disk full"},
     {62, "Input past end of file"},
+    {64, "Bad file name", false},
     {67, "Too many files"},
     {68, "Device unavailable"},
     {70, "Permission denied"},
@@ -141,11 +145,18 @@ const ErrorText* findText(int number) {
 }
 }  // namespace
 
-bool isKnownError(int number) { return findText(number) != nullptr; }
+bool isKnownError(int number) {
+  const ErrorText* e = findText(number);
+  return e && e->inLanguage;
+}
 
 std::string errorText(int number) {
+  return isKnownError(number) ? findText(number)->text : "Unknown runtime error";
+}
+
+const char* programErrorText(int number) {
   const ErrorText* e = findText(number);
-  return e ? e->text : "Unknown runtime error";
+  return e ? e->text : nullptr;
 }
 
 }  // namespace lathwick

@@ -40,9 +40,12 @@ inline constexpr int kInvalidOrUnqualifiedReference = 505;
 inline constexpr int kClassNotDefined = 506;
 }  // namespace err
 
-// The standard text of a runtime or compilation error number; "Unknown runtime error" when
-// the number is not in the table.
+// The standard text of a runtime or compilation error number of the macro language; "Unknown
+// runtime error" when the language does not know the number.
 std::string errorText(int number);
 bool isKnownError(int number);
+// The text of any number in the table, including the errors only the program raises
+// (64 "Bad file name"); nullptr when the number is not in the table.
+const char* programErrorText(int number);
 
 }  // namespace lathwick

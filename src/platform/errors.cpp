@@ -3,8 +3,8 @@
 namespace lathwick {
 
 AppError makeError(int number) {
-  if (!isKnownError(number)) return AppError(number, "Application-defined or object-defined error");
-  return AppError(number, errorText(number));
+  const char* text = programErrorText(number);
+  return AppError(number, text ? text : "Application-defined or object-defined error");
 }
 
 }  // namespace lathwick

@@ -66,6 +66,9 @@ TEST(ErrorTexts, UnknownNumbers) {
   EXPECT_FALSE(isKnownError(12345));
   EXPECT_EQ(errorText(12345), "Unknown runtime error");
   EXPECT_EQ(makeError(12345).description(), "Application-defined or object-defined error");
+  // 64 is the program's own: the macro language does not know it.
+  EXPECT_FALSE(isKnownError(err::kBadFileName));
+  EXPECT_EQ(errorText(err::kBadFileName), "Unknown runtime error");
 }
 
 }  // namespace
