@@ -29,7 +29,7 @@ QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
 // Opens the file for reading and closes it again, so a missing or unreadable file ends the load
 // with the runtime's own error.
 void checkReadable(const std::string& name) {
-  if (isDirectory(name)) throw makeError(err::kPathFileAccess);
+  if (isDirectory(name)) throw makeError(err::kPathFileAccessError);
   if (!isRegularFile(name)) throw makeError(err::kFileNotFound);
   std::ifstream probe(nativePath(name), std::ios::binary);
   if (!probe) throw makeError(err::kPermissionDenied);
@@ -100,7 +100,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     const int index = documents_.findFreeSlot();
     editor = createWindow(index);
     documents_.record(index).scheme = currentScheme_;
-    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccess);
+    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccessError);
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
     settings_.save("Startup", "LastPath", lastPath_);
