@@ -33,6 +33,7 @@ const Subcommand kSubcommands[] = {
     {"scheme", cmdScheme, "scheme list|header|dump"},
     {"rtf-text", cmdRtfText, "rtf-text FILE"},
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
+    {"macro", cmdMacro, "macro SCRIPT.vbs [--call PROC] IN OUT"},
 };
 
 void printUsage(std::FILE* out) {

@@ -15,6 +15,7 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
+#include "shell/gui/frame_scripts.h"
 #include "format/bundled_schemes.h"
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
@@ -62,7 +63,10 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   panels_ = new StatusPanels(statusBar());
   connect(panels_, &StatusPanels::bookmarkPressed, this, &MDIForm1::onBookmark);
   // A click on the message panel stops a running pass, as Esc does.
-  connect(panels_, &StatusPanels::messagePressed, this, [] { requestCancel(); });
+  connect(panels_, &StatusPanels::messagePressed, this, [this] {
+    requestCancel();
+    if (scripts_ && scripts_->host().running()) scripts_->host().interrupt();
+  });
   connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
   qApp->installEventFilter(this);
   showMenusOf(nullptr);
@@ -303,6 +307,11 @@ void MDIForm1::onBookmark(int number, Qt::MouseButton button) {
 }
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (scripts_ && scripts_->host().running() && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    scripts_->host().interrupt();  // Esc stops a running macro wherever the focus is
+    return true;
+  }
   if (passRunning_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     requestCancel();  // Esc stops a running pass wherever the focus is
     return true;
@@ -344,7 +353,10 @@ void MDIForm1::load() {
     }
     syncSettingChecks();
     rebuildRecentMenus();
-    // The script host joins here once macros are available.
+    scripts_ = new FrameScripts(*this, values_.AppFolder + "Script/");
+    registerMacroCommands(commands_, *scripts_);
+    refreshAvailability();
+    scripts_->host().loadMainScript();
   } catch (const std::exception& e) {
     dialogs().message(e.what(), "MDIForm load", Buttons::Ok, Icon::Information);
   }
