@@ -108,6 +108,7 @@ class frmEditor : public QWidget, public TransformTarget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
