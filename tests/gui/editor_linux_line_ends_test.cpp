@@ -14,6 +14,7 @@
 #include "document/line_convention.h"
 #include "frame_fixture.h"
 #include "platform/gui/rich_text_box.h"
+#include "shell/gui/menu_set.h"
 #include "support/cli_runner.h"
 #include "transform/gui/frm_renumber.h"
 
@@ -51,7 +52,7 @@ const std::string kLinuxProgram = "%\nO1000 (BRACKET)\nG90 G21\nG00 X0 Y0\nG01 X
 
 TEST_F(LinuxLineEndsTest, AnLfProgramOpensColouredWithAutoFormatAndSavesBackWithLf) {
   start();
-  frame->setAutoFormat(true);
+  trigger("mnuAuto");  // Auto Format on
   const std::string path = files.write("bracket.nc", kLinuxProgram);
   gui::frmEditor* e = openFile(path);
   ASSERT_NE(e, nullptr);

@@ -224,8 +224,9 @@ bool frmEditor::handleAltKey(int key) {
 
 void frmEditor::changeEvent(QEvent* event) {
   // The caption may be a shortened path: the window's title bar tells the whole path on hover.
-  if (event->type() == QEvent::WindowTitleChange)
-    if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) sub->setToolTip(frame_.documents().valid(tag_) ? QString::fromLocal8Bit(filename().c_str()) : QString());
+  auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget());
+  if (event->type() == QEvent::WindowTitleChange && sub && frame_.documents().valid(tag_))
+    sub->setToolTip(QString::fromLocal8Bit(filename().c_str()));
   QWidget::changeEvent(event);
 }
 
