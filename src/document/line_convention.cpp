@@ -23,7 +23,7 @@ void readBlocks(const std::string& path, Piece piece) {
   while ((n = std::fread(buf.data(), 1, buf.size(), f)) > 0) piece(std::string_view(buf.data(), n));
   const bool failed = std::ferror(f) != 0;
   std::fclose(f);
-  if (failed) throw makeError(err::kPathFileAccess);
+  if (failed) throw makeError(err::kPathFileAccessError);
 }
 
 // Scans for CR and LF; a file with a CR is never Linux text, so the scan ends at the first one.
@@ -75,7 +75,7 @@ std::string withLineEnds(std::string_view crLfText, LineEnds ends) {
 LineEnds copyAsCrLfTwin(const std::string& from, const std::string& to) {
   const LineEnds ends = lineEndsOfFile(from);
   if (ends == LineEnds::CrLf) {
-    if (!copyFile(from, to)) throw makeError(err::kPathFileAccess);
+    if (!copyFile(from, to)) throw makeError(err::kPathFileAccessError);
     return ends;
   }
   AtomicFileWriter out(to, Durability::Scratch);
