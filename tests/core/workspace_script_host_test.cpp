@@ -3,6 +3,7 @@
 // recorder, and scripts that misbehave (runaway loops, deep recursion, wrong arguments).
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <sstream>
 
 #include "platform/file_system.h"
@@ -36,8 +37,18 @@ struct ScriptHostTest : ::testing::Test {
   ScriptHost& start(const std::string& mainScript) {
     dir.write("Script/main.vbs", mainScript);
     host = std::make_unique<ScriptHost>(workspace, window, dir.file("Script/"));
+    host->setUi(consoleUi());
     host->loadMainScript();
     return *host;
+  }
+  // MsgBox prints its prompt on the console, as the batch tool's does.
+  vbs::UiCallbacks consoleUi() {
+    vbs::UiCallbacks ui;
+    ui.msgBox = [this](const std::string& prompt, int, const std::string&) {
+      out << prompt << "\n";
+      return 1;
+    };
+    return ui;
   }
   HeadlessDocument& open(const std::string& text = kProgram) { return workspace.open(dir.write("a.nc", text)); }
   // Runs `body` as a Sub and returns what the console got.
@@ -138,13 +149,11 @@ TEST_F(ScriptHostTest, MembersActOnTheDocument) {
   EXPECT_EQ(run("MsgBox LikeString(\"G01\", \"G0?\") & \"|\" & IsEmpty(LikeString(\"G01\", \"X*\")) & \"|\" & "
                 "Fmt(2.5, \"0.000\") & \"|\" & Application.filename"),
             "3|True|2.500|" + dir.file("a.nc") + "\n");
-  run("AddSpaces");
-  EXPECT_EQ(doc.text(), "G00 X1\r\nM30");
-  run("Text = \"G00X1\" : AddSpaces");
-  EXPECT_EQ(doc.text(), "G00 X1");
+  run("Text = \"G00X1\" & vbCrLf : AddSpaces");
+  EXPECT_EQ(doc.text(), "G00 X1\r\n");
   run("RemoveSpaces");
-  EXPECT_EQ(doc.text(), "G00X1");
-  run("Text = \"G00 X1\" & vbLf & \"M30\" : JunkFilter");
+  EXPECT_EQ(doc.text(), "G00X1\r\n");
+  run("Text = \"G00 X1\" & vbLf & \"M30\" & vbLf : JunkFilter");
   EXPECT_EQ(doc.text(), "G00 X1\r\nM30\r\n");
   run("Save");
   EXPECT_EQ(readWholeFile(dir.file("a.nc")).value_or(""), "G00 X1\r\nM30\r\n");
@@ -230,11 +239,7 @@ TEST_F(ScriptHostTest, RunawayLoopStopsWhenInterruptedAndRecursionAndArgumentsAr
   ScriptHost& h = start("Sub V_Loop()\r\nDo\r\nLoop\r\nEnd Sub\r\nSub Deep(n)\r\nDeep n + 1\r\nEnd Sub\r\nSub V_Deep()\r\nDeep 1\r\nEnd Sub\r\n");
   open();
   int polls = 0;
-  vbs::UiCallbacks ui;
-  ui.msgBox = [this](const std::string& p, int, const std::string&) {
-    out << p << "\n";
-    return 1;
-  };
+  vbs::UiCallbacks ui = consoleUi();
   ui.poll = [&] {
     if (++polls == 3) h.interrupt();
   };

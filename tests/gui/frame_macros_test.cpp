@@ -15,7 +15,7 @@ using lathwick::test::FrameTest;
 namespace {
 
 const std::string kMain =
-    "Sub LoadDoc(f)\r\n  SelStart = 0 : SelText = \"(LOADED)\"\r\nEnd Sub\r\n"
+    "Sub LoadDoc(f)\r\n  If LCase(Right(f, 3)) = \".nc\" Then SelStart = 0 : SelText = \"(LOADED)\"\r\nEnd Sub\r\n"
     "Sub V_Upper()\r\n  SelStart = 0 : SelLength = Len(Text) : SelText = UCase(SelText)\r\nEnd Sub\r\n"
     "Sub v_test()\r\nEnd Sub\r\n"
     "Sub Helper()\r\nEnd Sub\r\n"
@@ -61,7 +61,7 @@ TEST_F(FrameMacros, ScriptErrorBoxThenNothingUntilResetCode) {
   ASSERT_EQ(dialogs.messages.size(), 1u);
   EXPECT_EQ(dialogs.messages[0].caption, "Script Error");
   EXPECT_NE(lastMessage().find(std::string(53, '-') + "\r\nFile =  "), std::string::npos) << lastMessage();
-  EXPECT_NE(lastMessage().find("\r\nLine = 10\r\n"), std::string::npos) << lastMessage();
+  EXPECT_NE(lastMessage().find("\r\nLine = 12\r\n"), std::string::npos) << lastMessage();
   EXPECT_NE(lastMessage().find("Discription =  Division by zero\r\n"), std::string::npos);
   EXPECT_TRUE(execute().empty());
   trigger("mnuReset");
@@ -120,6 +120,26 @@ TEST_F(FrameMacros, ExecuteFileAddsTheChosenScript) {
   dialogs.files.push_back(app.write("Script/extra.vbs", "Sub V_Extra()\r\nEnd Sub\r\n"));
   trigger("mnuExecuteMacro", 0);
   EXPECT_EQ(execute().back(), "&Extra");
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(FrameMacros, KeyRecordingWritesSpecialKeysAfterTheTypedText) {
+  start();
+  openFile(files.write("p.nc", "G00\r\n"));
+  trigger("mnuRecordKeys");
+  QWidget* text = frame->activeEditor()->rtfTextBox().widget();
+  text->setFocus();
+  QApplication::processEvents();
+  QWidget* target = QApplication::focusWidget();
+  ASSERT_NE(target, nullptr);
+  lathwick::test::keyClick(target, 'X', Qt::NoModifier, "X");
+  lathwick::test::keyClick(target, '1', Qt::NoModifier, "1");
+  lathwick::test::keyClick(target, Qt::Key_F1, Qt::ControlModifier);
+  lathwick::test::keyClick(target, Qt::Key_End, Qt::ShiftModifier | Qt::ControlModifier);
+  EXPECT_EQ(lathwick::test::readBytes(app.file("Script/Keyboard.vbs")), "Key \"X1\"\r\nKey \"^+{END}\"\r\n");
 }
 
 }  // namespace

@@ -3,16 +3,20 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QToolBar>
+#include <cstdlib>
 
 #include "document/gui/frm_editor.h"
 #include "document/gui/rich_text_box.h"
 #include "document/paths.h"
+#include "platform/app_names.h"
 #include "transform/gui/text_bytes.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_dialogs.h"
+#include "workspace/key_recording.h"
 
 namespace lathwick::gui {
 
@@ -84,8 +88,8 @@ int keyOfName(const std::string& name, QString& text) {
     if (n >= 1 && n <= 16) return Qt::Key_F1 + n - 1;
   }
   if (name.size() == 1) {
-    text = QString(QChar(name[0]));
-    return QChar(name[0]).toUpper().unicode();
+    text = QString(QLatin1Char(name[0]));
+    return QChar(QLatin1Char(name[0])).toUpper().unicode();
   }
   return 0;
 }
@@ -162,14 +166,55 @@ void FrameScripts::postKeys(const std::string& keys) {
     } else if (c == '~') {
       key = Qt::Key_Return;
     } else {
-      text = QString(QChar(c));
-      key = QChar(c).toUpper().unicode();
+      text = QString(QLatin1Char(c));
+      key = QChar(QLatin1Char(c)).toUpper().unicode();
     }
-    if (key == Qt::Key_Return || key == Qt::Key_Tab) text = key == Qt::Key_Tab ? "\t" : "\r";
+    if (key == Qt::Key_Return || key == Qt::Key_Tab) text = key == Qt::Key_Tab ? QStringLiteral("\t") : QStringLiteral("\r");
     if (modifiers & (Qt::ControlModifier | Qt::AltModifier)) text.clear();
     if (key) postKey(key, modifiers, text);
     modifiers = {};
   }
+}
+
+namespace {
+// The Windows key numbers the recorder's table is written in; 0 for keys it does not know.
+int windowsKeyCode(int key) {
+  switch (key) {
+    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Tab: return 9;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return 13;
+    case Qt::Key_PageUp: return 33;
+    case Qt::Key_PageDown: return 34;
+    case Qt::Key_End: return 35;
+    case Qt::Key_Home: return 36;
+    case Qt::Key_Left: return 37;
+    case Qt::Key_Up: return 38;
+    case Qt::Key_Right: return 39;
+    case Qt::Key_Down: return 40;
+    case Qt::Key_Insert: return 45;
+    case Qt::Key_Delete: return 46;
+    default: return key >= Qt::Key_F1 && key <= Qt::Key_F16 ? 112 + (key - Qt::Key_F1) : 0;
+  }
+}
+}  // namespace
+
+void FrameScripts::noteKey(QObject* receiver, const QKeyEvent& event) {
+  frmEditor* editor = frame_.activeEditor();
+  auto* widget = qobject_cast<QWidget*>(receiver);
+  if (!recording_ || !editor || !widget || widget != QApplication::focusWidget() || !editor->isAncestorOf(widget)) return;
+  std::string& pending = pendingText_[editor];
+  const int code = windowsKeyCode(event.key());
+  const Qt::KeyboardModifiers m = event.modifiers();
+  if (code == 0) {
+    const std::string typed = toBytes(event.text());
+    if (!(m & (Qt::ControlModifier | Qt::AltModifier)) && !typed.empty() && static_cast<unsigned char>(typed[0]) >= 32)
+      pending += typed;
+    return;
+  }
+  const int shift = ((m & Qt::ShiftModifier) ? kShiftBit : 0) | ((m & Qt::ControlModifier) ? kCtrlBit : 0) |
+                    ((m & Qt::AltModifier) ? kAltBit : 0);
+  recordKey(host_->scriptFolder() + kKeyboardScriptName, pending, code, shift);
 }
 
 void FrameScripts::operate(const transform::OperateEntries& entries) {
@@ -196,6 +241,7 @@ void registerMacroCommands(CommandDispatcher& commands, FrameScripts& scripts) {
     else scripts.execute();
   });
   commands.add("mnuReset", [&scripts](int) { scripts.resetCode(); });
+  commands.add("mnuRecordKeys", [&scripts](int) { scripts.setRecording(!scripts.recording()); });
 }
 
 }  // namespace lathwick::gui

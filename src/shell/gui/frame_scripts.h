@@ -3,12 +3,14 @@
 // Macro menu's commands, the procedures pop-up, MsgBox and InputBox as dialogs, and Esc or a
 // click on the message panel stopping a running macro.
 #include <QObject>
+#include <map>
 #include <memory>
 #include <string>
 
 #include "workspace/command_dispatch.h"
 #include "workspace/script_host.h"
 
+class QKeyEvent;
 class QMenu;
 
 namespace lathwick::gui {
@@ -29,6 +31,13 @@ class FrameScripts : public QObject, public ScriptWindow {
   // The pop-up of the macro procedures, filled by execute().
   QMenu* proceduresMenu() const { return procedures_; }
 
+  // The key recorder: while on, special keys pressed in a document are appended to the
+  // keyboard script, preceded by the text typed since the last one.
+  void setRecording(bool on) { recording_ = on; }
+  bool recording() const { return recording_; }
+  // A key pressed in `receiver` (the frame sees every key first).
+  void noteKey(QObject* receiver, const QKeyEvent& event);
+
   // Keys of the keystroke notation, posted to the focused widget.
   static void postKeys(const std::string& keys);
 
@@ -44,6 +53,8 @@ class FrameScripts : public QObject, public ScriptWindow {
   MDIForm1& frame_;
   std::unique_ptr<ScriptHost> host_;
   QMenu* procedures_;
+  bool recording_ = false;
+  std::map<const QObject*, std::string> pendingText_;  // per document window
 };
 
 // Registers the Macro menu's commands on the frame's dispatcher.

@@ -316,6 +316,7 @@ bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
     requestCancel();  // Esc stops a running pass wherever the focus is
     return true;
   }
+  if (scripts_ && event->type() == QEvent::KeyPress) scripts_->noteKey(watched, *static_cast<QKeyEvent*>(event));
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
     // The X server reports the lock keys in the modifier state of every key event.
     const quint32 state = static_cast<QKeyEvent*>(event)->nativeModifiers();
