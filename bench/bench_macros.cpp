@@ -79,8 +79,10 @@ void BM_LoadBundledMainScript(benchmark::State& state) {
   std::istringstream in;
   HeadlessWorkspace workspace(HeadlessSettings{bundledDataFilePath(), 1, ""}, out, in);
   NoWindow window;
-  std::string folder = bundledDataFilePath();
-  folder = folder.substr(0, folder.find_last_of('/') + 1) + "Script/";
+  const std::string data = bundledDataFilePath();
+  std::string folder = data.substr(0, data.find_last_of('/') + 1) + "Script/";
+  // The benchmarks sit one folder below the data folder of the build.
+  if (!readWholeFile(folder + kMainScriptName)) folder = data.substr(0, data.find_last_of('/') + 1) + "../Script/";
   if (!readWholeFile(folder + kMainScriptName)) state.SkipWithError("no bundled main.vbs");
   for (auto _ : state) {
     ScriptHost host(workspace, window, folder);
