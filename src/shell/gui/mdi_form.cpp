@@ -71,8 +71,12 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
 
 MDIForm1::~MDIForm1() {
   qApp->removeEventFilter(this);
-  // The documents go first: their windows still reach the frame while they are torn down.
-  for (QMdiSubWindow* sub : mdi_->subWindowList()) delete sub;
+  // The documents go first: their windows still reach the frame while they are torn down. The
+  // frame no longer follows them: its menus and toolbar are going too.
+  // Closed windows are no longer in the area's list but still its children: take them all.
+  for (frmEditor* editor : findChildren<frmEditor*>()) disconnect(editor, nullptr, this, nullptr);
+  windows_.clear();
+  for (QMdiSubWindow* sub : mdi_->findChildren<QMdiSubWindow*>()) delete sub;
   transforms_.reset();
 }
 
