@@ -9,7 +9,7 @@
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 
 namespace lathwick::extend {
 

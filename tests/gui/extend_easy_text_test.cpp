@@ -87,6 +87,8 @@ TEST_F(EasyTextTest, InsertReplacesTheSelectionOfTheActiveDocumentAndCopyFillsTh
   press(form, "cmdInsert");
   EXPECT_EQ(e->rtfTextBox().text(), "N1 G00\r\nG17 G40\r\n(SAY \"HI\") M30\r\n");
   EXPECT_TRUE(e->record().changed);
+  press(form, "cmdInsert");  // again, after the first
+  EXPECT_EQ(e->rtfTextBox().text(), "N1 G00\r\nG17 G40\r\n(SAY \"HI\")G17 G40\r\n(SAY \"HI\") M30\r\n");
   press(form, "cmdCopy");
   EXPECT_EQ(QApplication::clipboard()->text(), "G17 G40\r\n(SAY \"HI\")");
   EXPECT_TRUE(dialogs.messages.empty());

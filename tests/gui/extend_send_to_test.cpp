@@ -14,7 +14,7 @@
 #include "extend/send_to_list.h"
 #include "frame_fixture.h"
 #include "screenshot.h"
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;

@@ -8,10 +8,10 @@
 #include "platform/errors.h"
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "shell/gui/mdi_form.h"
-#include "shell/gui/menu_set.h"
-#include "shell/startup.h"
+#include "workspace/gui/menu_set.h"
+#include "platform/app_names.h"
 
 namespace lathwick::gui {
 namespace {
@@ -100,11 +100,8 @@ frmSendTo* ExtendTools::editSendToList() {
 
 frmEasyText* ExtendTools::showEasyText() {
   if (!easyText_) {
-    auto activeText = [this]() -> TextControl* {
-      frmEditor* editor = frame_.activeEditor();
-      return editor ? &editor->rtfTextBox() : nullptr;
-    };
-    easyText_ = new frmEasyText(frame_.values().AppFolder, easyTextMemory_, activeText, &frame_);
+    auto activeDocument = [this]() -> WorkspaceDocument* { return frame_.activeDocument(); };
+    easyText_ = new frmEasyText(frame_.values().AppFolder, easyTextMemory_, activeDocument, &frame_);
     easyText_->setAttribute(Qt::WA_DeleteOnClose);
     easyText_->show();
     easyText_->showRemembered();

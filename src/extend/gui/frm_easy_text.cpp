@@ -12,11 +12,11 @@
 #include <QPushButton>
 #include <QToolButton>
 
-#include "document/gui/text_control.h"
 #include "platform/bytes.h"
 #include "platform/gui/dialogs.h"
-#include "shell/startup.h"
+#include "platform/app_names.h"
 #include "transform/gui/text_bytes.h"
+#include "workspace/workspace.h"
 
 namespace lathwick::gui {
 namespace {
@@ -32,8 +32,8 @@ QString shown(const std::string& text) {
 }  // namespace
 
 frmEasyText::frmEasyText(const std::string& datLocation, EasyTextMemory& memory,
-                         std::function<TextControl*()> activeText, QWidget* parent)
-    : QDialog(parent), list_(datLocation), memory_(memory), activeText_(std::move(activeText)) {
+                         std::function<WorkspaceDocument*()> activeDocument, QWidget* parent)
+    : QDialog(parent), list_(datLocation), memory_(memory), activeDocument_(std::move(activeDocument)) {
   setObjectName(QStringLiteral("frmEasyText"));
   setWindowTitle(QStringLiteral("Easy Text"));
   buildControls();
@@ -167,7 +167,13 @@ std::string frmEasyText::editText() const {
 
 void frmEasyText::onInsert() {
   // With no document open there is nowhere to put it, and nothing to say about that.
-  if (TextControl* text = activeText_ ? activeText_() : nullptr) text->replaceSelection(editText());
+  WorkspaceDocument* document = activeDocument_ ? activeDocument_() : nullptr;
+  if (!document) return;
+  const std::string text = editText();
+  const long start = document->selectionStart();
+  document->replaceSelection(text);
+  // The caret goes after the text, as typing it would leave it, so a second Insert adds again.
+  document->setSelection(start + static_cast<long>(text.size()), 0);
 }
 
 void frmEasyText::onCopy() { QApplication::clipboard()->setText(fromBytes(editText())); }

@@ -9,6 +9,10 @@
 
 #include "extend/easy_text.h"
 
+namespace lathwick {
+class WorkspaceDocument;
+}
+
 class QAction;
 class QComboBox;
 class QListWidget;
@@ -16,8 +20,6 @@ class QPlainTextEdit;
 class QPushButton;
 
 namespace lathwick::gui {
-
-class TextControl;
 
 // What the dialog remembers for as long as the program runs.
 struct EasyTextMemory {
@@ -28,9 +30,9 @@ struct EasyTextMemory {
 class frmEasyText : public QDialog {
   Q_OBJECT
  public:
-  // `activeText` gives the text control of the active document, or nullptr when none is open.
-  frmEasyText(const std::string& datLocation, EasyTextMemory& memory, std::function<TextControl*()> activeText,
-              QWidget* parent = nullptr);
+  // `activeDocument` gives the active document, or nullptr when none is open.
+  frmEasyText(const std::string& datLocation, EasyTextMemory& memory,
+              std::function<WorkspaceDocument*()> activeDocument, QWidget* parent = nullptr);
 
   // Fills the category box and shows the category and snippet chosen last.
   void showRemembered();
@@ -54,7 +56,7 @@ class frmEasyText : public QDialog {
 
   extend::CategoryList list_;
   EasyTextMemory& memory_;
-  std::function<TextControl*()> activeText_;
+  std::function<WorkspaceDocument*()> activeDocument_;
   QComboBox* cboFileName_;
   QListWidget* lstSections_;
   QPlainTextEdit* txtEdit_;

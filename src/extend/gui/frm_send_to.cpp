@@ -11,7 +11,7 @@
 
 #include "document/paths.h"
 #include "platform/gui/dialogs.h"
-#include "shell/startup.h"
+#include "platform/app_names.h"
 #include "transform/gui/text_bytes.h"
 
 namespace lathwick::gui {
