@@ -33,6 +33,9 @@ const Subcommand kSubcommands[] = {
     {"scheme", cmdScheme, "scheme list|header|dump"},
     {"rtf-text", cmdRtfText, "rtf-text FILE"},
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
+    {"sendto", cmdSendTo, "sendto [--file F] list | add TITLE PROGRAM [PARAMETERS] | remove TITLE | move TITLE up|down"},
+    {"snippets", cmdSnippets,
+     "snippets [--folder D] list [CATEGORY] | show CATEGORY NAME | add CATEGORY NAME FILE | delete CATEGORY NAME"},
 };
 
 void printUsage(std::FILE* out) {

@@ -127,6 +127,10 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void tileVertically();    // side by side
   void tileHorizontally();  // one above the other
 
+ signals:
+  // A document window was made, before its text arrives (its menus can be filled now).
+  void documentWindowCreated(frmEditor* editor);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,6 +8,7 @@
 
 #include "document/gui/document_commands.h"
 #include "document/gui/frm_editor.h"
+#include "extend/gui/extend_commands.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_commands.h"
@@ -20,6 +21,7 @@ void MDIForm1::registerCommands() {
   registerFrameCommands();
   registerDocumentCommands(commands_, *this);
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
+  registerExtendCommands(*this);
 }
 
 // The frame's own commands: files, view settings, help and the Window menu.

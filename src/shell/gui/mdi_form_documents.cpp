@@ -56,6 +56,7 @@ frmEditor* MDIForm1::createWindow(int index) {
   windows_[index] = editor;
   documents_.record(index).scheme = currentScheme_;
   editor->LoadMenuArray();
+  emit documentWindowCreated(editor);
   connect(editor, &QObject::destroyed, this, [this, index] { forgetWindow(index); });
   return editor;
 }
