@@ -30,7 +30,8 @@ const Subcommand kSubcommands[] = {
     {"add-spaces", cmdAddSpaces, "add-spaces IN OUT"},
     {"remove-spaces", cmdRemoveSpaces, "remove-spaces IN OUT"},
     {"junk-filter", cmdJunkFilter, "junk-filter IN OUT"},
-    {"scheme", cmdScheme, "scheme list|header|dump"},
+    {"scheme", cmdScheme, "scheme list|header|dump|new NAME|copy N NAME|set N [STYLE OPTIONS]|delete N"},
+    {"print", cmdPrint, "print --plain|--rich [--lines A-B] [--view modes|codes] IN OUT.pdf"},
     {"rtf-text", cmdRtfText, "rtf-text FILE"},
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
 };
