@@ -11,6 +11,7 @@
 #include "document/gui/frm_editor.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
+#include "shell/gui/print_scheme_commands.h"
 #include "transform/gui/transform_dialogs.h"
 
 namespace lathwick::gui {
@@ -77,6 +78,7 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuUcase", withEditor([](frmEditor& e) { e.changeCase(0); }));
   commands_.add("mnuLcase", withEditor([](frmEditor& e) { e.changeCase(1); }));
   commands_.add("mnuTitlecase", withEditor([](frmEditor& e) { e.changeCase(2); }));
+  registerPrintAndSchemeCommands(*this);
 }
 
 }  // namespace lathwick::gui
