@@ -86,7 +86,9 @@ TEST(CliPrint, PlainListingOfAFiveHundredLineProgram) {
     else
       EXPECT_EQ(m[1].str(), "") << "later pages carry only Page # and their number";
     const std::size_t count = lines.size() - 1;
-    if (p + 1 < pages.size()) EXPECT_EQ(count, p == 0 ? 50u : 51u) << "page " << p + 1;
+    if (p + 1 < pages.size()) {
+      EXPECT_EQ(count, p == 0 ? 50u : 51u) << "page " << p + 1;
+    }
     for (std::size_t i = 1; i < lines.size(); ++i, ++expected)
       EXPECT_NE(lines[i].find("N" + std::to_string(expected) + " G01 X" + std::to_string(expected) + ".5"),
                 std::string::npos)
@@ -149,7 +151,7 @@ TEST(CliPrint, RefusalsAndUsage) {
   EXPECT_NE(r.err.find("File not found"), std::string::npos) << r.err;
   EXPECT_FALSE(std::filesystem::exists(out));
   // Bare line feeds are refused for a rich print, as the colorizer refuses them.
-  r = runCli({"print", "--rich", dir.write("lf.nc", "G00 X1\nG01 X2\r\n"), out});
+  r = runCli({"print", "--rich", dir.write("lf.nc", "G1 X1\nX2\n"), out});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_FALSE(std::filesystem::exists(out));
 }
