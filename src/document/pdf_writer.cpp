@@ -10,18 +10,19 @@ namespace {
 constexpr double kA4Width = 595.0;
 constexpr double kA4Height = 842.0;
 
-std::string number(double value) {
+std::string number(double value, int places = 2) {
   char buffer[32];
-  std::snprintf(buffer, sizeof buffer, "%.2f", value);
+  std::snprintf(buffer, sizeof buffer, "%.*f", places, value);
   std::string text = buffer;
   while (text.back() == '0') text.pop_back();
   if (text.back() == '.') text.pop_back();
   return text == "-0" ? "0" : text;
 }
 
+// Four places, so that every byte of a colour comes back exactly when the page is drawn.
 std::string rgb(PdfColour colour) {
-  return number((colour & 0xFF) / 255.0) + " " + number(((colour >> 8) & 0xFF) / 255.0) + " " +
-         number(((colour >> 16) & 0xFF) / 255.0);
+  return number((colour & 0xFF) / 255.0, 4) + " " + number(((colour >> 8) & 0xFF) / 255.0, 4) + " " +
+         number(((colour >> 16) & 0xFF) / 255.0, 4);
 }
 
 // A literal string: the bytes as they are, with the three characters PDF reserves escaped and

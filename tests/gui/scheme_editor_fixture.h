@@ -17,7 +17,7 @@
 #include "format/gui/frm_setup.h"
 #include "format/gui/style_dialogs.h"
 #include "format/scheme_data_file.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 #include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 

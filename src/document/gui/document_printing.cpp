@@ -12,7 +12,7 @@
 #include "document/print_pages.h"
 #include "document/rtf_reader.h"
 #include "platform/gui/dialogs.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick::gui {
 

@@ -17,7 +17,7 @@
 #include "format/rich_text_builder.h"
 #include "format/scheme_edits.h"
 #include "platform/bytes.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick::gui {
 
