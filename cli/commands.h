@@ -21,6 +21,13 @@ int cmdRtfText(const Args& args);
 int cmdRun(const Args& args);
 int cmdSendTo(const Args& args);
 int cmdSnippets(const Args& args);
+int cmdPrint(const Args& args);
+
+// scheme new|copy|set|delete and the options they take.
+class ParsedArgs;
+struct OptionSpec;
+std::vector<OptionSpec> schemeEditOptions();
+int editScheme(const ParsedArgs& parsed);
 
 // For subcommands whose engine is not built yet: says so on stderr and exits 1.
 int notAvailable(const char* name);

@@ -76,6 +76,7 @@ SchemeRecord loadScheme(const std::string& dataFile, long n) {
 std::string bundledDataFilePath() { return executableFolder() + "/" + kDataFileName; }
 
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record) {
+  if (isReadOnlyFile(dataFile)) throw DataFileProblem(err::kPermissionDenied);
   std::string bytes;
   if (isRegularFile(dataFile)) {
     auto existing = readWholeFile(dataFile);
@@ -95,6 +96,7 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
 }
 
 void removeSchemeRecord(const std::string& dataFile, const std::string& tempFile, long n) {
+  if (isReadOnlyFile(dataFile)) throw DataFileProblem(err::kPermissionDenied);
   const auto bytes = readWholeFile(dataFile);
   if (!bytes) throw DataFileProblem(err::kFileNotFound);
   const long count = countOf(static_cast<long long>(bytes->size()));

@@ -44,6 +44,7 @@ SchemeList loadSchemeList(const std::string& dataFile, long rememberedRecord);
 SchemeRecord readSchemeRecord(const std::string& dataFile, long n);
 
 // Writes the record as record n (1 to count + 1), rewriting the file through a temporary file.
+// A data file marked read-only is left alone (DataFileProblem), as is one that cannot be read.
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record);
 
 // Record n with its fragments rebuilt, ready to be the current scheme.

@@ -32,6 +32,14 @@ bool isRegularFile(const std::string& path) {
   return fs::is_regular_file(nativePath(path), ec);
 }
 
+bool isReadOnlyFile(const std::string& path) {
+  std::error_code ec;
+  const fs::file_status status = fs::status(nativePath(path), ec);
+  if (ec || !fs::is_regular_file(status)) return false;
+  const auto write = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return (status.permissions() & write) == fs::perms::none;
+}
+
 bool isDirectory(const std::string& path) {
   std::error_code ec;
   return fs::is_directory(nativePath(path), ec);

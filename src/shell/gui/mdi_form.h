@@ -98,6 +98,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   // The record of the current scheme, read from the data file when the number changes; the first
   // shipped scheme when the data file cannot give it.
   const SchemeRecord* currentSchemeRecord() override;
+  // The scheme records were edited: the next currentSchemeRecord() reads the data file again.
+  void forgetSchemeRecord() { schemeRecord_.reset(); }
 
   // The scheme data file could not be read: said once, not for every window.
   void reportDataFileProblem() override;

@@ -11,6 +11,7 @@
 #include "extend/gui/extend_commands.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
+#include "shell/gui/print_scheme_commands.h"
 #include "transform/gui/transform_commands.h"
 #include "transform/gui/transform_dialogs.h"
 
@@ -22,6 +23,7 @@ void MDIForm1::registerCommands() {
   registerDocumentCommands(commands_, *this);
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
   registerExtendCommands(*this);
+  registerPrintAndSchemeCommands(*this);
 }
 
 // The frame's own commands: files, view settings, help and the Window menu.
