@@ -26,7 +26,7 @@ const Subcommand kSubcommands[] = {
      "highlight --find T [--match-case] [--whole-word] [--exclude-comments] [--lines A-B] IN OUT"},
     {"operate", cmdOperate,
      "operate   --address XYZ --operator '*' --value V --format PICTURE [--exclude-comments] [--lines A-B] IN OUT"},
-    {"renumber", cmdRenumber, "renumber  --start S --increment I --char N --skip CHARS --method 0|1|2 [--lines A-B] IN OUT"},
+    {"renumber", cmdRenumber, "renumber  --start S --increment I --char N --skip CHARS --method 0|1|2 [--keep-references] [--lines A-B] IN OUT"},
     {"add-spaces", cmdAddSpaces, "add-spaces IN OUT"},
     {"remove-spaces", cmdRemoveSpaces, "remove-spaces IN OUT"},
     {"junk-filter", cmdJunkFilter, "junk-filter IN OUT"},
