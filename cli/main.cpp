@@ -33,6 +33,8 @@ const Subcommand kSubcommands[] = {
     {"scheme", cmdScheme, "scheme list|header|dump"},
     {"rtf-text", cmdRtfText, "rtf-text FILE"},
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
+    {"toolpath", cmdToolpath, "toolpath IN"},
+    {"bounds", cmdBounds, "bounds IN"},
 };
 
 void printUsage(std::FILE* out) {
