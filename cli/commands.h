@@ -21,6 +21,7 @@ int cmdRtfText(const Args& args);
 int cmdRun(const Args& args);
 int cmdToolpath(const Args& args);
 int cmdBounds(const Args& args);
+int cmdVerify(const Args& args);
 
 // For subcommands whose engine is not built yet: says so on stderr and exits 1.
 int notAvailable(const char* name);

@@ -35,6 +35,7 @@ const Subcommand kSubcommands[] = {
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
     {"toolpath", cmdToolpath, "toolpath IN"},
     {"bounds", cmdBounds, "bounds IN"},
+    {"verify", cmdVerify, "verify [--data FILE] [--scheme N] [--comment TEXT] A B"},
 };
 
 void printUsage(std::FILE* out) {

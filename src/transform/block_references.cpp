@@ -161,23 +161,43 @@ void addReferences(const std::vector<Word>& words, BlockWords& out) {
   }
 }
 
+BlockWords scanOneBlock(std::string_view line, std::string_view commentStart) {
+  BlockWords out;
+  const std::vector<Word> words = codeWords(line, commentStart);
+  std::optional<std::int64_t> program;
+  for (const Word& w : words)
+    if (w.letter == 'O' && !w.computed) {
+      program = wholeNumber(w.value);
+      break;
+    }
+  const size_t first = skipBlanks(line, 0);
+  if (!program && first < line.size() && line[first] == ':') {
+    size_t end = first + 1;
+    while (end < line.size() && isDigit(line[end])) ++end;
+    program = wholeNumber(line.substr(first + 1, end - first - 1));
+  }
+  if (program) out.programNumbers.push_back(*program);
+  addReferences(words, out);
+  return out;
+}
+
 }  // namespace
 
 BlockWords scanBlock(std::string_view line, std::string_view commentStart) {
   BlockWords out;
-  const std::vector<Word> words = codeWords(line, commentStart);
-  for (const Word& w : words)
-    if (w.letter == 'O' && !w.computed) {
-      out.programNumber = wholeNumber(w.value);
-      break;
+  // A bare line feed inside a line (a file the junk filter has not seen) still ends a block:
+  // the words on either side of it belong to different blocks.
+  for (size_t start = 0; start <= line.size();) {
+    size_t end = line.find('\n', start);
+    if (end == std::string_view::npos) end = line.size();
+    BlockWords block = scanOneBlock(line.substr(start, end - start), commentStart);
+    out.programNumbers.insert(out.programNumbers.end(), block.programNumbers.begin(), block.programNumbers.end());
+    for (BlockReference& r : block.references) {
+      r.valueStart += start;
+      out.references.push_back(std::move(r));
     }
-  const size_t first = skipBlanks(line, 0);
-  if (!out.programNumber && first < line.size() && line[first] == ':') {
-    size_t end = first + 1;
-    while (end < line.size() && isDigit(line[end])) ++end;
-    out.programNumber = wholeNumber(line.substr(first + 1, end - first - 1));
+    start = end + 1;
   }
-  addReferences(words, out);
   return out;
 }
 

@@ -31,7 +31,7 @@ struct BlockReference {
 
 struct BlockWords {
   std::vector<BlockReference> references;
-  std::optional<std::int64_t> programNumber;  // O1000, O100 SUB, :1000
+  std::vector<std::int64_t> programNumbers;  // O1000, O100 SUB, :1000 (one a block)
 };
 
 // Reads the code of one line: "(...)" comments, and everything from ";" or from a comment-start

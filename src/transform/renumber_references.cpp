@@ -45,7 +45,7 @@ Survey survey(const std::string& inPath, const RenumberRequest& request) {
   while (reader.next(line)) {
     ++number;
     BlockWords words = scanBlock(line, comment);
-    if (words.programNumber) s.programs.push_back(*words.programNumber);
+    s.programs.insert(s.programs.end(), words.programNumbers.begin(), words.programNumbers.end());
     for (BlockReference& r : words.references) {
       std::string value = line.substr(r.valueStart, r.valueLength);
       s.references.push_back(Found{number, std::move(r), std::move(value)});

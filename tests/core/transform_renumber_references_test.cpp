@@ -130,3 +130,9 @@ TEST(RenumberReferences, ManyProblemsAreCountedAndTheFirstTenNamed) {
   EXPECT_EQ(o.result.message.find("Line 11:"), std::string::npos);
   EXPECT_NE(o.result.message.find("... and 2 more.\nNothing was renumbered."), std::string::npos);
 }
+
+TEST(RenumberReferences, ABareLineFeedInsideALineStillEndsABlock) {
+  // The M98 call and the M99 after the bare line feed are two blocks: P1 is the call's program
+  // number (O1 is in the file), not a return to a block N1 that does not exist.
+  expectKept({"N10 M98 P1 L3\nM30\nO1\nG91 G0 X1\nM99"}, {"N100 M98 P1 L3\nM30\nO1\nG91 G0 X1\nM99"});
+}
