@@ -51,6 +51,8 @@ class frmEditor : public QWidget, public TransformTarget {
   DefaultTextStyle defaultTextStyle() const;
 
   void ShowLineNum();
+  // Puts the caret at the start of the 1-based `line` (scrolled into view).
+  void showLine(long line);
   void En_Dis_able();
   void Form_Activate();
   void Save();

@@ -22,6 +22,11 @@ std::string frmEditor::selectedText() const { return text_->selText(); }
 long frmEditor::lineFromChar(long position) const { return text_->lineFromChar(static_cast<int>(position)); }
 long frmEditor::lineCount() const { return text_->lineCount(); }
 
+void frmEditor::showLine(long line) {
+  text_->setSelection(text_->lineIndex(static_cast<int>(line - 1)), 0);
+  ShowLineNum();
+}
+
 bool frmEditor::savePlainText(const std::string& path) {
   try {
     text_->saveFile(path, TextKind::Plain);

@@ -15,7 +15,7 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
-#include "extend/verify/gui/motion_check.h"
+#include "extend/gui/motion_check.h"
 #include "format/bundled_schemes.h"
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"

@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 #include "document/gui/frm_editor.h"
+#include "extend/gui/compare_motion_command.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_dialogs.h"
@@ -62,6 +63,12 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuAddSpaces", withEditor([](frmEditor& e) { e.AddSpaces(); }));
   commands_.add("mnuRemove", withEditor([](frmEditor& e) { e.RemoveSpaces(); }));
   commands_.add("mnuJunkFilter", withEditor([](frmEditor& e) { e.JunkFilter(); }));
+  commands_.add("mnuCompareMotion", withEditor([this](frmEditor& e) {
+    std::vector<OpenProgram> others;
+    for (frmEditor* other : editors())
+      if (other != &e) others.push_back({other->windowTitle().toStdString(), other});
+    compareMotionWith(e, others, this, [&e](long line) { e.showLine(line); });
+  }));
   commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
   commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
   commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));

@@ -1,4 +1,4 @@
-#include "extend/verify/gui/compare_motion_command.h"
+#include "extend/gui/compare_motion_command.h"
 
 #include <QInputDialog>
 #include <QStringList>

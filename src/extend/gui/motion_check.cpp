@@ -1,4 +1,4 @@
-#include "extend/verify/gui/motion_check.h"
+#include "extend/gui/motion_check.h"
 
 #include "extend/verify/motion_verdict.h"
 #include "format/pass_frame.h"
