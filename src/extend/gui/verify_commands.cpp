@@ -34,7 +34,7 @@ void chooseAndCompare(Workspace& workspace, QWidget* parent) {
                                                  "Compare the motion of this program with:", items, 0, false, &ok);
     if (!ok) return;
     const auto index = items.indexOf(choice);
-    if (index >= 0 && index < static_cast<decltype(index)>(others.size())) {
+    if (index >= 0 && index < static_cast<qsizetype>(others.size())) {
       WorkspaceDocument& other = *others[static_cast<size_t>(index)];
       return compareMotionWith(workspace, *active, other.text(), fileNameOf(other.fileName()));
     }

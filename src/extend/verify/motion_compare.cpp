@@ -114,7 +114,7 @@ ProgramSource fileSource(const std::string& path) {
   auto reader = std::make_shared<Reader>(file);
   return [reader]() {
     const std::size_t n = std::fread(reader->buffer.data(), 1, reader->buffer.size(), reader->file);
-    if (n == 0 && std::ferror(reader->file)) throw makeError(err::kPathFileAccess);
+    if (n == 0 && std::ferror(reader->file)) throw makeError(err::kPathFileAccessError);
     return std::string_view(reader->buffer.data(), n);
   };
 }
