@@ -2,6 +2,7 @@
 // sequence numbers over the range, written as plain text; with --keep-references the words that
 // name a renumbered block follow it.
 #include "commands.h"
+#include "pass_input.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
@@ -43,7 +44,9 @@ int cmdRenumber(const Args& args) {
   req.updateReferences = p.flag("--keep-references");
   const std::string& in = p.positionals()[0];
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);
-  return finishPass(transform::runRenumber(in, p.positionals()[1], req, silentMonitor()), false, in);
+  const std::string& out = p.positionals()[1];
+  const PassInput input(in);
+  return finishPass(input.plainOut(transform::runRenumber(input.path(), out, req, silentMonitor()), out), false, in);
 }
 
 }  // namespace lathwick::cli
