@@ -1,5 +1,6 @@
-// renumber --start S --increment I --char N --skip CHARS --method 0|1|2: new sequence numbers
-// over the range, written as plain text.
+// renumber --start S --increment I --char N --skip CHARS --method 0|1|2 [--keep-references]: new
+// sequence numbers over the range, written as plain text; with --keep-references the words that
+// name a renumbered block follow it.
 #include "commands.h"
 #include "pass_input.h"
 #include "platform/bytes.h"
@@ -27,7 +28,8 @@ int cmdRenumber(const Args& args) {
                                                           {"--increment", true, true},
                                                           {"--char", true, true},
                                                           {"--skip", true, true},
-                                                          {"--method", true, true}}),
+                                                          {"--method", true, true},
+                                                          {"--keep-references", false, false}}),
                                          2, "IN and OUT");
   transform::RenumberRequest req;
   req.start = wholeNumber(p, "--start");
@@ -39,6 +41,7 @@ int cmdRenumber(const Args& args) {
   req.sequenceText = *p.value("--char");
   req.skipCharacters = *p.value("--skip");
   req.range = rangeFromOptions(p);
+  req.updateReferences = p.flag("--keep-references");
   const std::string& in = p.positionals()[0];
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);
   const std::string& out = p.positionals()[1];

@@ -28,6 +28,9 @@ class ParsedArgs;
 struct OptionSpec;
 std::vector<OptionSpec> schemeEditOptions();
 int editScheme(const ParsedArgs& parsed);
+int cmdToolpath(const Args& args);
+int cmdBounds(const Args& args);
+int cmdVerify(const Args& args);
 
 // For subcommands whose engine is not built yet: says so on stderr and exits 1.
 int notAvailable(const char* name);

@@ -26,7 +26,7 @@ const Subcommand kSubcommands[] = {
      "highlight --find T [--match-case] [--whole-word] [--exclude-comments] [--lines A-B] IN OUT"},
     {"operate", cmdOperate,
      "operate   --address XYZ --operator '*' --value V --format PICTURE [--exclude-comments] [--lines A-B] IN OUT"},
-    {"renumber", cmdRenumber, "renumber  --start S --increment I --char N --skip CHARS --method 0|1|2 [--lines A-B] IN OUT"},
+    {"renumber", cmdRenumber, "renumber  --start S --increment I --char N --skip CHARS --method 0|1|2 [--keep-references] [--lines A-B] IN OUT"},
     {"add-spaces", cmdAddSpaces, "add-spaces IN OUT"},
     {"remove-spaces", cmdRemoveSpaces, "remove-spaces IN OUT"},
     {"junk-filter", cmdJunkFilter, "junk-filter IN OUT"},
@@ -37,6 +37,9 @@ const Subcommand kSubcommands[] = {
     {"sendto", cmdSendTo, "sendto [--file F] list | add TITLE PROGRAM [PARAMETERS] | remove TITLE | move TITLE up|down"},
     {"snippets", cmdSnippets,
      "snippets [--folder D] list [CATEGORY] | show CATEGORY NAME | add CATEGORY NAME FILE | delete CATEGORY NAME"},
+    {"toolpath", cmdToolpath, "toolpath IN"},
+    {"bounds", cmdBounds, "bounds IN"},
+    {"verify", cmdVerify, "verify [--data FILE] [--scheme N] [--comment TEXT] A B"},
 };
 
 void printUsage(std::FILE* out) {

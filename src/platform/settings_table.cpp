@@ -5,7 +5,7 @@
 
 namespace lathwick {
 
-const std::array<SettingRow, 25> kSettingsTable = {{
+const std::array<SettingRow, 26> kSettingsTable = {{
     {"Startup", "app_path", "", "application folder"},
     {"Startup", "record", "1", "current scheme number"},
     {"Startup", "LastPath", nullptr, "folder shown first by the file dialogs (the executable's folder)"},
@@ -28,6 +28,7 @@ const std::array<SettingRow, 25> kSettingsTable = {{
     {"Numbering", "SkipLines", "%", "renumber: skip characters"},
     {"Numbering", "Start", "100", "renumber: start number"},
     {"Numbering", "Method", "2", "renumber: method (2 = all non-comment lines)"},
+    {"Numbering", "UpdateReferences", "False", "renumber: rewrite the words that name a renumbered block"},
     {"Operate", "Operators", "*", "operate: operator"},
     {"Operate", "Address", "XYZ", "operate: address letters"},
     {"RecentFiles", "RecentFile1", "", "most recent file (RecentFile1 to RecentFile8)"},
@@ -101,6 +102,7 @@ NumberingSettings readNumberingSettings(const SettingsStore& store) {
   n.skipLines = store.get(kNumbering, "SkipLines", n.skipLines);
   n.start = store.get(kNumbering, "Start", n.start);
   n.method = readOr(store, kNumbering, "Method", 2, [](const std::string& t) { return int(toInt16(t)); });
+  n.updateReferences = readOr(store, kNumbering, "UpdateReferences", false, [](const std::string& t) { return toBool(t); });
   return n;
 }
 
@@ -110,6 +112,7 @@ void writeNumberingSettings(SettingsStore& store, const NumberingSettings& n) {
   store.save(kNumbering, "SkipLines", n.skipLines);
   store.save(kNumbering, "Start", n.start);
   store.save(kNumbering, "Method", std::to_string(n.method));
+  store.save(kNumbering, "UpdateReferences", n.updateReferences ? "True" : "False");
 }
 
 int readSearchFlags(const SettingsStore& store) {

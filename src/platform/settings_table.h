@@ -18,7 +18,7 @@ struct SettingRow {
 
 // The settings table. Rows whose default depends on the screen or the executable's folder have
 // a null default; the typed readers below supply those.
-extern const std::array<SettingRow, 25> kSettingsTable;
+extern const std::array<SettingRow, 26> kSettingsTable;
 
 // Looks up a fixed default in the table ("" for unknown keys and machine-dependent ones).
 std::string settingDefault(std::string_view section, std::string_view key);
@@ -49,6 +49,7 @@ void writeFrameSettings(SettingsStore& store, const FrameSettings& settings);
 struct NumberingSettings {
   std::string character = "N", increment = "1", skipLines = "%", start = "100";
   int method = 2;
+  bool updateReferences = false;
 };
 NumberingSettings readNumberingSettings(const SettingsStore& store);
 void writeNumberingSettings(SettingsStore& store, const NumberingSettings& settings);

@@ -120,6 +120,7 @@ const auto kDocumentMenu = std::to_array<MenuEntry>({
     item("mnuRemove", "&Remove Spaces"),
     item("mnuOperate", "&Operate"),
     item("mnuJunkFilter", "&Junk Filter"),
+    item("mnuCompareMotion", "Compare &Motion With..."),
     bar("bar3"),
     item("mnueasytext", "&Easy-Text"),
 

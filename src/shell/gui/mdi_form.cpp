@@ -15,6 +15,7 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
+#include "extend/gui/motion_check.h"
 #include "format/bundled_schemes.h"
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
@@ -24,6 +25,7 @@
 #include "workspace/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 #include "transform/gui/cancel_flag.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/transform_dialogs.h"
 
 namespace lathwick::gui {
@@ -55,6 +57,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   setCentralWidget(mdi_);
 
   transforms_ = std::make_unique<TransformDialogs>(settings_, this);
+  installMotionCheck();  // every pass's result says whether the program's motion changed
   registerCommands();
   frameMenus_ = std::make_unique<MenuSet>(frameMenuTable(), this, commands_, false);
   for (const char* name : {"mnuToolbar", "mnuStatus", "mnuAuto"}) frameMenus_->action(name)->setCheckable(true);
@@ -71,6 +74,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
 
 MDIForm1::~MDIForm1() {
   qApp->removeEventFilter(this);
+  setPassObserver({});
   // The documents go first: their windows still reach the frame while they are torn down. The
   // frame no longer follows them: its menus and toolbar are going too.
   // Closed windows are no longer in the area's list but still its children: take them all.

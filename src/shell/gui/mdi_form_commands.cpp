@@ -9,6 +9,7 @@
 #include "document/gui/document_commands.h"
 #include "document/gui/frm_editor.h"
 #include "extend/gui/extend_commands.h"
+#include "extend/gui/verify_commands.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/print_scheme_commands.h"
@@ -24,6 +25,7 @@ void MDIForm1::registerCommands() {
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
   registerExtendCommands(*this);
   registerPrintAndSchemeCommands(*this);
+  registerVerifyCommands(commands_, *this, this);
 }
 
 // The frame's own commands: files, view settings, help and the Window menu.

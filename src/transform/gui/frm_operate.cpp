@@ -17,6 +17,7 @@
 #include "transform/gui/combo_history.h"
 #include "transform/gui/document_pass.h"
 #include "transform/gui/key_filters.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/operate.h"
@@ -179,6 +180,7 @@ void frmOperate::onOK() {
       target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
       target.setFileUndoable(true);
       cmdUndo_->setEnabled(true);
+      notifyPassDone(target, PassKind::ChangesMotion);
     }
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {

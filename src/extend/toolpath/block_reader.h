@@ -1,0 +1,57 @@
+#pragma once
+// Reads one program line into its address words, the way the colorizer reads the line: the
+// block-skip text found within the first four characters makes the whole line skipped, comments
+// run from the opening to the closing delimiter of the scheme's pair (or to the end of the line),
+// letters count in either case, and a word's number is the run of "+-./0123456789" right after
+// its letter. A ";" also starts a comment that runs to the end of the line.
+//
+// What cannot be read is reported as a problem text for the caller to turn into a warning:
+// "bad number X--1", "unsupported #1=5", "unreadable byte 0x07". Macro expressions and keywords
+// ("#", "[", "SUB", "IF" ...) make the line's words unreliable: the line is then marked so its
+// motion is not followed.
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "format/pass_frame.h"
+
+namespace lathwick::toolpath {
+
+struct Word {
+  char letter = 0;        // 'A' to 'Z'
+  double value = 0;
+  std::string_view text;  // the word as written, upper-cased ("G01", "X-1.5"); valid until the next read
+};
+
+struct ReaderOptions {
+  CommentDelimiters comment;     // default "(" ")"
+  std::string blockSkip = "/";   // trimmed block-skip text; empty: no block skip
+};
+
+struct BlockRead {
+  bool skipped = false;     // a block-skip line: nothing on it is read
+  bool unreliable = false;  // macro text or keywords: the words read are not to be followed
+};
+
+class BlockReader {
+ public:
+  explicit BlockReader(ReaderOptions options) : options_(std::move(options)) {}
+
+  // Fills `words` and `problems` (both cleared first) from one line.
+  BlockRead read(std::string_view line, std::vector<Word>& words, std::vector<std::string>& problems);
+
+ private:
+  std::size_t skipComment(std::size_t at) const;
+  std::size_t readWord(std::size_t at, std::vector<Word>& words, std::vector<std::string>& problems,
+                       BlockRead& result) const;
+  std::size_t readOther(std::size_t at, std::vector<std::string>& problems, BlockRead& result) const;
+
+  ReaderOptions options_;
+  std::string upper_;
+};
+
+// The strict number of a word: an optional sign, digits with at most one point, at least one
+// digit, and a magnitude below 1e9. False for anything else ("--1", "1.2.3", "1/2", "").
+bool parseWordNumber(std::string_view text, double& value);
+
+}  // namespace lathwick::toolpath
