@@ -2,9 +2,11 @@
 // whether the program's motion changed, and "Compare Motion With..." names the first line where
 // the active document and a file part and puts the caret there.
 #include <QComboBox>
+#include <QDialog>
 #include <QPushButton>
 
 #include "frame_fixture.h"
+#include "shell/gui/status_panels.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
