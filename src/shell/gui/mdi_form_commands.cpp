@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 #include "document/gui/frm_editor.h"
+#include "extend/gui/graphics_commands.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_dialogs.h"
@@ -77,6 +78,7 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuUcase", withEditor([](frmEditor& e) { e.changeCase(0); }));
   commands_.add("mnuLcase", withEditor([](frmEditor& e) { e.changeCase(1); }));
   commands_.add("mnuTitlecase", withEditor([](frmEditor& e) { e.changeCase(2); }));
+  registerGraphicsCommands(*this);
 }
 
 }  // namespace lathwick::gui
