@@ -1,6 +1,7 @@
 #include "extend/gui/graphics_commands.h"
 
 #include <QPointer>
+#include <QScreen>
 
 #include "document/gui/frm_editor.h"
 #include "extend/gui/toolpath_setup.h"
@@ -15,7 +16,13 @@ void registerGraphicsCommands(MDIForm1& frame) {
   frame.commands().add("mnuShow", [&frame, window](int) {
     frmEditor* editor = frame.activeEditor();
     if (!editor) return;
-    if (!*window) *window = new ToolpathWindow(frame);
+    if (!*window) {
+      *window = new ToolpathWindow(frame);
+      // First shown over the right half of the frame, beside the documents.
+      QRect area = frame.geometry();
+      if (const QScreen* screen = frame.screen()) area = area.intersected(screen->availableGeometry());
+      (*window)->setGeometry(area.x() + area.width() / 2, area.y() + 60, area.width() / 2, area.height() - 90);
+    }
     if ((*window)->showFor(*editor)) {
       (*window)->show();
       (*window)->raise();

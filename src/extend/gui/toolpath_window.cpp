@@ -50,6 +50,7 @@ ToolpathWindow::ToolpathWindow(MDIForm1& frame)
   summary_->setObjectName(QStringLiteral("lblSummary"));
   summary_->setContentsMargins(6, 3, 6, 3);
   summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  summary_->setWordWrap(true);  // the window's width is the user's, not the text's
   layout->addWidget(summary_);
   connect(view_, &ToolpathView::moveClicked, this, &ToolpathWindow::goToMove);
   resize(720, 560);
@@ -134,7 +135,7 @@ QString ToolpathWindow::summaryText() const {
     const Extents& e = s.feedExtents.empty ? s.allExtents : s.feedExtents;
     for (int axis = 0; axis < 3; ++axis)
       text += QString::asprintf("%c %s to %s   ", "XYZ"[axis], fixed4(e.min[axis]).c_str(), fixed4(e.max[axis]).c_str());
-    text += unit + QStringLiteral("   Feed %1  Rapid %2   Time %3")
+    text += unit + QStringLiteral("\nFeed %1  Rapid %2   Time %3")
                        .arg(QString::fromStdString(fixed4(s.feedLength)), QString::fromStdString(fixed4(s.rapidLength)),
                             duration(s.feedMinutes));
   }

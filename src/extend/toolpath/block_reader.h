@@ -7,8 +7,8 @@
 //
 // What cannot be read is reported as a problem text for the caller to turn into a warning:
 // "bad number X--1", "unsupported #1=5", "unreadable byte 0x07". Macro expressions and keywords
-// ("#", "[", "SUB", "IF" ...) make the line's words unreliable: the line is then marked so its
-// motion is not followed.
+// ("#", "[", "SUB", "IF" ...) end the reading of the line: the words before them are kept and
+// the line is marked so that its motion is not followed.
 #include <string>
 #include <string_view>
 #include <vector>
