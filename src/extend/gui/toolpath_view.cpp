@@ -9,12 +9,23 @@ namespace lathwick::gui {
 
 using namespace lathwick::toolpath;
 
+namespace {
+// While the view turns, the path is drawn from about this many of its points.
+constexpr std::size_t kQuickPoints = 60000;
+}  // namespace
+
 ToolpathView::ToolpathView(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("toolpathView"));
   setMinimumSize(200, 150);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   view_.rotation = viewRotation(kind_);
+  settle_.setSingleShot(true);
+  settle_.setInterval(kSettleMs);
+  connect(&settle_, &QTimer::timeout, this, [this] {
+    moving_ = turned_ = false;
+    changed();
+  });
 }
 
 void ToolpathView::setPath(std::shared_ptr<const PathLines> path, const Extents& partExtents) {
@@ -56,13 +67,13 @@ void ToolpathView::zoomAt(QPointF at, double factor) {
   view_.scale *= f;
   view_.offsetX = static_cast<float>(at.x()) - (static_cast<float>(at.x()) - view_.offsetX) * f;
   view_.offsetY = static_cast<float>(at.y()) - (static_cast<float>(at.y()) - view_.offsetY) * f;
-  changed();
+  moved(false);
 }
 
 void ToolpathView::panBy(QPointF delta) {
   view_.offsetX += static_cast<float>(delta.x());
   view_.offsetY += static_cast<float>(delta.y());
-  changed();
+  moved(false);
 }
 
 void ToolpathView::turnBy(float yaw, float pitch) {
@@ -76,11 +87,19 @@ void ToolpathView::turnBy(float yaw, float pitch) {
   const QPointF after = project(middle);
   view_.offsetX += static_cast<float>(before.x() - after.x());
   view_.offsetY += static_cast<float>(before.y() - after.y());
-  changed();
+  moved(true);
 }
 
 void ToolpathView::changed() {
   dirty_ = true;
+  update();
+}
+
+void ToolpathView::moved(bool turned) {
+  if (dirty_ || cache_.isNull()) return changed();  // nothing to reuse yet
+  moving_ = true;
+  turned_ = turned_ || turned;
+  settle_.start();
   update();
 }
 
@@ -98,19 +117,41 @@ void ToolpathView::redraw() {
   const QSize size = this->size().expandedTo(QSize(1, 1));
   if (cache_.size() != size) cache_ = QImage(size, QImage::Format_RGB32);
   cache_.fill(colours_.background);
-  dirty_ = false;
+  cacheView_ = view_;
+  dirty_ = moving_ = turned_ = false;
   if (!path_) return;
   projectForDrawing(*path_, view_, showRapids_, size.width(), size.height(), runs_);
-  points_.resize(runs_.xy.size() / 2);
-  for (std::size_t i = 0; i < points_.size(); ++i) points_[i] = QPoint(runs_.xy[2 * i], runs_.xy[2 * i + 1]);
   QPainter p(&cache_);
-  for (const ScreenRun& run : runs_.runs) {
+  drawRuns(p, runs_);
+}
+
+void ToolpathView::drawRuns(QPainter& p, const ScreenRuns& runs) {
+  points_.resize(runs.xy.size() / 2);
+  for (std::size_t i = 0; i < points_.size(); ++i) points_[i] = QPoint(runs.xy[2 * i], runs.xy[2 * i + 1]);
+  const QPen pens[4] = {QPen(colours_.rapid), QPen(colours_.feed), QPen(colours_.arcCw), QPen(colours_.arcCcw)};
+  int penNow = -1;
+  for (const ScreenRun& run : runs.runs) {
     if (run.count < 2) continue;
-    QPen pen(colourOf(run.kind));
-    if (run.kind == MoveKind::Rapid) pen.setStyle(Qt::DashLine);
-    p.setPen(pen);
+    const int pen = static_cast<int>(run.kind);
+    if (pen != penNow) p.setPen(pens[pen]), penNow = pen;
     p.drawPolyline(points_.data() + run.first, static_cast<int>(run.count));
   }
+}
+
+void ToolpathView::drawQuick(QPainter& p) {
+  p.fillRect(rect(), colours_.background);
+  if (!turned_) {
+    // The image drawn for the old view, scaled and shifted onto the new one.
+    const double s = view_.scale / cacheView_.scale;
+    p.save();
+    p.setTransform(QTransform(s, 0, 0, s, view_.offsetX - s * cacheView_.offsetX, view_.offsetY - s * cacheView_.offsetY));
+    p.drawImage(0, 0, cache_);
+    p.restore();
+    return;
+  }
+  if (!path_) return;
+  projectForDrawing(*path_, view_, showRapids_, width(), height(), runs_, kQuickPoints);
+  drawRuns(p, runs_);
 }
 
 QPointF ToolpathView::project(const Point& pt) const {
@@ -121,9 +162,13 @@ QPointF ToolpathView::project(const Point& pt) const {
 }
 
 void ToolpathView::paintEvent(QPaintEvent*) {
-  if (dirty_ || cache_.size() != size()) redraw();
   QPainter p(this);
-  p.drawImage(0, 0, cache_);
+  if (moving_ && cache_.size() == size()) {
+    drawQuick(p);
+  } else {
+    if (dirty_ || moving_ || cache_.size() != size()) redraw();
+    p.drawImage(0, 0, cache_);
+  }
   p.setRenderHint(QPainter::Antialiasing);
   drawExtents(p);
   drawMarked(p);

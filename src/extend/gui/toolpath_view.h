@@ -4,9 +4,13 @@
 // and turned with the right one (or Shift and the left). The path is drawn once into an image
 // for each view and only the image is shown while nothing moves; the marked moves (the caret's
 // line), the axes and the part's extents are drawn over it. A click on a move reports it.
+// While the view is being zoomed, panned or turned, each frame is quick: the last image scaled
+// and shifted (zoom, pan) or the path drawn from every n-th point (turn); the whole path is drawn
+// again once the mouse has rested for a moment.
 #include <QColor>
 #include <QImage>
 #include <QPoint>
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -37,8 +41,10 @@ class ToolpathView : public QWidget {
   void panBy(QPointF delta);
   void turnBy(float yaw, float pitch);
 
-  // Draws the path into the cached image now (what a change of view costs), for benchmarks.
+  // Draws the whole path into the cached image now (what a settled view costs).
   void redraw();
+  // How long the view waits after the last zoom, pan or turn before drawing the whole path.
+  static constexpr int kSettleMs = 150;
   const QImage& image() const { return cache_; }
   const toolpath::ViewTransform& transform() const { return view_; }
 
@@ -54,7 +60,10 @@ class ToolpathView : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void changed();  // the view moved: the image is drawn again before the next paint
+  void changed();   // colours, path or rapids changed: the whole image is drawn before the next paint
+  void moved(bool turned);  // zoom, pan or turn: quick frames until the view settles
+  void drawQuick(QPainter& p);
+  void drawRuns(QPainter& p, const toolpath::ScreenRuns& runs);
   QColor colourOf(toolpath::MoveKind kind) const;
   void drawMarked(QPainter& p) const;
   void drawExtents(QPainter& p) const;
@@ -70,7 +79,11 @@ class ToolpathView : public QWidget {
   PathColours colours_;
   std::size_t markedFirst_ = 0, markedLast_ = 0;
   QImage cache_;
+  toolpath::ViewTransform cacheView_;  // the view the cached image was drawn for
   bool dirty_ = true;
+  bool moving_ = false;   // a zoom, pan or turn since the last whole drawing
+  bool turned_ = false;   // ... that turned the view, so the image cannot be reused
+  QTimer settle_;
   toolpath::ScreenRuns runs_;
   std::vector<QPoint> points_;
   QPoint pressAt_, lastAt_;

@@ -41,7 +41,7 @@ PathLines buildPathLines(const ModelledProgram& program) {
     path.firstPoint.push_back(static_cast<std::uint32_t>(path.points()));
     if (m.isArc()) {
       const ArcShape shape = arcShape(m);
-      const int chords = std::clamp(static_cast<int>(std::ceil(std::abs(shape.sweep) / kChordAngle)), 1, kMaxChords);
+      const int chords = std::clamp(static_cast<int>(std::ceil(std::abs(shape.sweep) / kChordAngle - 1e-9)), 1, kMaxChords);
       for (int k = 1; k <= chords; ++k)
         addPoint(path, pointOnArc(m, shape, static_cast<double>(k) / chords), m.units, index, m.kind);
     } else {
@@ -86,7 +86,7 @@ void fitView(const PathLines& path, ViewTransform& view, int width, int height, 
 }
 
 void projectForDrawing(const PathLines& path, const ViewTransform& view, bool showRapids, int width, int height,
-                       ScreenRuns& out) {
+                       ScreenRuns& out, std::size_t maxPoints) {
   out.xy.clear();
   out.runs.clear();
   const std::size_t n = path.points();
@@ -97,7 +97,9 @@ void projectForDrawing(const PathLines& path, const ViewTransform& view, bool sh
   bool open = false;  // a run is open and its last point is (lastX, lastY)
   std::int32_t lastX = 0, lastY = 0;
   MoveKind runKind = MoveKind::Rapid;
+  const std::size_t stride = maxPoints > 0 && n > maxPoints ? n / maxPoints + 1 : 1;
   for (std::size_t i = 1; i < n; ++i) {
+    if (stride > 1) i = std::min(n - 1, i + stride - 1);  // sketching: every n-th point
     float x, y;
     view.project(&path.xyz[3 * i], x, y);
     const MoveKind kind = path.kind[i];

@@ -52,9 +52,11 @@ struct ScreenRuns {
   std::vector<ScreenRun> runs;
 };
 
-// The polyline in screen pixels for a width x height view, in runs of one move kind.
+// The polyline in screen pixels for a width x height view, in runs of one move kind. With
+// `maxPoints` the path is drawn from every n-th point only, so that at most about that many are
+// projected (a quick sketch while the view turns).
 void projectForDrawing(const PathLines& path, const ViewTransform& view, bool showRapids, int width, int height,
-                       ScreenRuns& out);
+                       ScreenRuns& out, std::size_t maxPoints = 0);
 
 // The move whose chord passes within `tolerance` pixels of (sx, sy), the nearest; -1 for none.
 long pickMove(const PathLines& path, const ViewTransform& view, float sx, float sy, float tolerance, bool showRapids);
