@@ -5,8 +5,7 @@
 
 #include "extend/toolpath/graphics_settings.h"
 #include "extend/toolpath/path_drawing.h"
-#include "format/scheme_record.h"
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "support/temp_dir.h"
 #include "toolpath_fixture.h"
 
@@ -90,9 +89,7 @@ TEST(ToolpathDrawing, SetupChoicesRoundTripAndFallBackToTheScheme) {
   GraphicsSettings s = GraphicsSettings::load(store);
   EXPECT_EQ(s.view, ViewKind::Isometric);
   EXPECT_TRUE(s.showRapids);
-  SchemeRecord scheme;
-  scheme.style(0, 3).colour = 0x0000FF;
-  scheme.backColour = 0x101010;
+  const PathColours scheme{0x0000FF, 0x000000, 0x00FF00, 0xFF0000, 0x101010};
   EXPECT_EQ(s.colour(PathColour::Rapid, &scheme), 0x0000FF);
   EXPECT_EQ(s.colour(PathColour::Background, &scheme), 0x101010);
   s.view = ViewKind::Side;

@@ -6,21 +6,23 @@
 #include "document/gui/frm_editor.h"
 #include "extend/gui/toolpath_setup.h"
 #include "extend/gui/toolpath_window.h"
-#include "shell/gui/mdi_form.h"
+#include "document/gui/editor_host.h"
+#include "workspace/command_dispatch.h"
 
 namespace lathwick::gui {
 
-void registerGraphicsCommands(MDIForm1& frame) {
+void registerGraphicsCommands(CommandDispatcher& commands, EditorHost& host, SettingsStore& settings) {
   // One tool-path window for the frame, made when first shown and owned by the frame.
   auto window = std::make_shared<QPointer<ToolpathWindow>>();
-  frame.commands().add("mnuShow", [&frame, window](int) {
-    frmEditor* editor = frame.activeEditor();
+  commands.add("mnuShow", [&host, &settings, window](int) {
+    frmEditor* editor = host.activeEditor();
     if (!editor) return;
     if (!*window) {
-      *window = new ToolpathWindow(frame);
+      *window = new ToolpathWindow(host, settings);
       // First shown over the right half of the frame, beside the documents.
-      QRect area = frame.geometry();
-      if (const QScreen* screen = frame.screen()) area = area.intersected(screen->availableGeometry());
+      const QWidget* frame = host.frameWidget();
+      QRect area = frame->geometry();
+      if (const QScreen* screen = frame->screen()) area = area.intersected(screen->availableGeometry());
       (*window)->setGeometry(area.x() + area.width() / 2, area.y() + 60, area.width() / 2, area.height() - 90);
     }
     if ((*window)->showFor(*editor)) {
@@ -28,10 +30,11 @@ void registerGraphicsCommands(MDIForm1& frame) {
       (*window)->raise();
     }
   });
-  frame.commands().add("mnuGraphicsSetup", [&frame, window](int) {
-    ToolpathSetup setup(toolpath::GraphicsSettings::load(frame.settings()), frame.currentSchemeRecord(), &frame);
+  commands.add("mnuGraphicsSetup", [&host, &settings, window](int) {
+    ToolpathSetup setup(toolpath::GraphicsSettings::load(settings), schemePathColours(host.currentSchemeRecord()),
+                        host.frameWidget());
     if (setup.exec() != QDialog::Accepted) return;
-    setup.settings().save(frame.settings());
+    setup.settings().save(settings);
     if (*window) (*window)->applySettings();
   });
 }

@@ -7,6 +7,8 @@
 #include <QFormLayout>
 #include <QPushButton>
 
+#include "format/scheme_record.h"
+
 namespace lathwick::gui {
 
 using namespace lathwick::toolpath;
@@ -21,7 +23,13 @@ std::int32_t rgbOf(const QColor& c) { return c.red() | (c.green() << 8) | (c.blu
 
 }  // namespace
 
-ToolpathSetup::ToolpathSetup(const GraphicsSettings& settings, const SchemeRecord* scheme, QWidget* parent)
+std::optional<PathColours> schemePathColours(const SchemeRecord* scheme) {
+  if (!scheme) return std::nullopt;
+  return PathColours{scheme->style(0, 3).colour, scheme->style(0, 4).colour, scheme->style(0, 5).colour,
+                     scheme->style(0, 6).colour, scheme->backColour};
+}
+
+ToolpathSetup::ToolpathSetup(const GraphicsSettings& settings, std::optional<PathColours> scheme, QWidget* parent)
     : QDialog(parent), settings_(settings), scheme_(scheme), view_(new QComboBox(this)), rapids_(new QCheckBox(this)),
       schemeColours_(new QPushButton(QStringLiteral("&Scheme colours"), this)) {
   setObjectName(QStringLiteral("frmToolpathSetup"));
@@ -56,7 +64,7 @@ ToolpathSetup::ToolpathSetup(const GraphicsSettings& settings, const SchemeRecor
 }
 
 void ToolpathSetup::chooseColour(PathColour which) {
-  const QColor now = qColour(settings_.colour(which, scheme_));
+  const QColor now = qColour(settings_.colour(which, scheme_ ? &*scheme_ : nullptr));
   const QColor chosen = QColorDialog::getColor(now, this, QString::fromLatin1(kColourNames[static_cast<int>(which)]).remove(QLatin1Char('&')));
   if (!chosen.isValid()) return;
   settings_.colours[static_cast<std::size_t>(which)] = rgbOf(chosen);
@@ -66,7 +74,7 @@ void ToolpathSetup::chooseColour(PathColour which) {
 void ToolpathSetup::showColours() {
   for (int i = 0; i < kPathColourCount; ++i) {
     const auto which = static_cast<PathColour>(i);
-    const QColor c = qColour(settings_.colour(which, scheme_));
+    const QColor c = qColour(settings_.colour(which, scheme_ ? &*scheme_ : nullptr));
     const bool fromScheme = settings_.colours[static_cast<std::size_t>(i)] < 0;
     colourButtons_[i]->setText(fromScheme ? QStringLiteral("(scheme)") : c.name());
     colourButtons_[i]->setStyleSheet(QStringLiteral("background-color: %1; color: %2")

@@ -8,15 +8,15 @@
 #include <cmath>
 
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/frm_editor.h"
 #include "document/paths.h"
+#include "extend/gui/toolpath_setup.h"
 #include "extend/gui/toolpath_view.h"
-#include "extend/toolpath/scheme_reading.h"
 #include "extend/toolpath/toolpath_text.h"
 #include "format/colorizer.h"
-#include "shell/gui/mdi_form.h"
-#include "shell/gui/status_panels.h"
 #include "transform/gui/qt_pass_monitor.h"
+#include "workspace/toolpath_reading.h"
 
 namespace lathwick::gui {
 
@@ -38,8 +38,8 @@ QByteArray fileNameOf(const frmEditor& editor) {
 
 }  // namespace
 
-ToolpathWindow::ToolpathWindow(MDIForm1& frame)
-    : QWidget(&frame, Qt::Window), frame_(frame), view_(new ToolpathView(this)), summary_(new QLabel(this)) {
+ToolpathWindow::ToolpathWindow(EditorHost& host, SettingsStore& settings)
+    : QWidget(host.frameWidget(), Qt::Window), host_(host), settings_(settings), view_(new ToolpathView(this)), summary_(new QLabel(this)) {
   setObjectName(QStringLiteral("frmToolpath"));
   setWindowTitle(QStringLiteral("Tool Path"));
   auto* layout = new QVBoxLayout(this);
@@ -79,8 +79,9 @@ void ToolpathWindow::buildToolbar() {
 }
 
 void ToolpathWindow::applySettings() {
-  const GraphicsSettings s = GraphicsSettings::load(frame_.settings());
-  const SchemeRecord* scheme = frame_.currentSchemeRecord();
+  const GraphicsSettings s = GraphicsSettings::load(settings_);
+  const std::optional<PathColours> fromScheme = schemePathColours(host_.currentSchemeRecord());
+  const PathColours* scheme = fromScheme ? &*fromScheme : nullptr;
   PathColours c;
   c.rapid = qColour(s.colour(PathColour::Rapid, scheme));
   c.feed = qColour(s.colour(PathColour::Feed, scheme));
@@ -98,17 +99,17 @@ void ToolpathWindow::applySettings() {
 
 bool ToolpathWindow::showFor(frmEditor& editor) {
   ModelOptions options;
-  if (const SchemeRecord* scheme = frame_.currentSchemeRecord()) options.reader = readerOptionsFor(*scheme);
+  options.reader = toolpathReaderOptions(editor.passFrame());
   const std::string text = editor.rtfTextBox().text();
   auto program = std::make_unique<ModelledProgram>();
   {
     BusyCursor busy;
-    frame_.setPassRunning(true);
-    QtPassMonitor monitor(nullptr, [this](const std::string& t) { frame_.statusPanels().setText("Stat", t); }, &frame_);
+    host_.setPassRunning(true);
+    QtPassMonitor monitor(nullptr, [this](const std::string& t) { host_.setPanelText("Stat", t); }, host_.frameWidget());
     *program = modelProgramText(text, options, monitor);
-    frame_.setPassRunning(false);
+    host_.setPassRunning(false);
   }
-  frame_.statusPanels().setText("Stat", kReadyStatus);
+  host_.setPanelText("Stat", kReadyStatus);
   if (program->cancelled) return false;
   program_ = std::move(program);
   path_ = std::make_shared<PathLines>(buildPathLines(*program_));

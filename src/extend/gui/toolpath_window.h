@@ -15,16 +15,20 @@
 class QAction;
 class QLabel;
 
+namespace lathwick {
+class SettingsStore;
+}
+
 namespace lathwick::gui {
 
+class EditorHost;
 class frmEditor;
-class MDIForm1;
 class ToolpathView;
 
 class ToolpathWindow : public QWidget {
   Q_OBJECT
  public:
-  explicit ToolpathWindow(MDIForm1& frame);
+  ToolpathWindow(EditorHost& host, SettingsStore& settings);
 
   // Models the document's text (with progress and Esc for long ones) and shows its path. False
   // when the user cancelled; the window then keeps what it showed.
@@ -43,7 +47,8 @@ class ToolpathWindow : public QWidget {
   void followCaret();
   void goToMove(long move);
 
-  MDIForm1& frame_;
+  EditorHost& host_;
+  SettingsStore& settings_;
   ToolpathView* view_;
   QLabel* summary_;
   QAction* rapids_ = nullptr;

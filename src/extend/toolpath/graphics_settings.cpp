@@ -3,8 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "format/scheme_record.h"
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 
 namespace lathwick::toolpath {
 
@@ -13,8 +12,6 @@ namespace {
 constexpr const char* kSection = "Graphics";
 constexpr const char* kColourKeys[kPathColourCount] = {"RapidColour", "FeedColour", "ArcCwColour", "ArcCcwColour",
                                                        "BackColour"};
-// The scheme styles of set 0 the colours follow: G00, G01, G02, G03; the page colour apart.
-constexpr int kSchemeStyles[4] = {3, 4, 5, 6};
 constexpr std::int32_t kDefaults[kPathColourCount] = {0x0000C8, 0x006E00, 0xDC0000, 0xAA0096, 0xFFFFFF};
 
 long number(const std::string& text, long fallback) {
@@ -44,12 +41,10 @@ void GraphicsSettings::save(SettingsStore& store) const {
     store.save(kSection, kColourKeys[i], std::to_string(colours[static_cast<std::size_t>(i)]));
 }
 
-std::int32_t GraphicsSettings::colour(PathColour which, const SchemeRecord* scheme) const {
+std::int32_t GraphicsSettings::colour(PathColour which, const PathColours* scheme) const {
   const auto i = static_cast<std::size_t>(which);
   if (colours[i] >= 0) return colours[i];
-  if (!scheme) return kDefaults[i];
-  if (which == PathColour::Background) return scheme->backColour & 0xFFFFFF;
-  return scheme->style(0, kSchemeStyles[i]).colour & 0xFFFFFF;
+  return scheme ? (*scheme)[i] & 0xFFFFFF : kDefaults[i];
 }
 
 }  // namespace lathwick::toolpath

@@ -9,23 +9,25 @@
 
 namespace lathwick {
 class SettingsStore;
-struct SchemeRecord;
 }
 
 namespace lathwick::toolpath {
 
 enum class PathColour : std::uint8_t { Rapid, Feed, ArcCw, ArcCcw, Background };
 inline constexpr int kPathColourCount = 5;
+// A colour for each PathColour, red in the lowest byte.
+using PathColours = std::array<std::int32_t, kPathColourCount>;
 
 struct GraphicsSettings {
   ViewKind view = ViewKind::Isometric;
   bool showRapids = true;
-  std::array<std::int32_t, kPathColourCount> colours{-1, -1, -1, -1, -1};  // red in the lowest byte
+  PathColours colours{-1, -1, -1, -1, -1};  // chosen ones; -1 follows the scheme
 
   static GraphicsSettings load(const SettingsStore& store);
   void save(SettingsStore& store) const;
-  // The colour in use: the chosen one, else the scheme's, else a fixed default.
-  std::int32_t colour(PathColour which, const SchemeRecord* scheme) const;
+  // The colour in use: the chosen one, else the scheme's (its G00 to G03 styles and page colour,
+  // when there is a scheme), else a fixed default.
+  std::int32_t colour(PathColour which, const PathColours* scheme) const;
 };
 
 }  // namespace lathwick::toolpath
