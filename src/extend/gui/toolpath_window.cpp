@@ -80,8 +80,8 @@ void ToolpathWindow::buildToolbar() {
 
 void ToolpathWindow::applySettings() {
   const GraphicsSettings s = GraphicsSettings::load(settings_);
-  const std::optional<PathColours> fromScheme = schemePathColours(host_.currentSchemeRecord());
-  const PathColours* scheme = fromScheme ? &*fromScheme : nullptr;
+  const std::optional<toolpath::PathColours> fromScheme = schemePathColours(host_.currentSchemeRecord());
+  const toolpath::PathColours* scheme = fromScheme ? &*fromScheme : nullptr;
   PathColours c;
   c.rapid = qColour(s.colour(PathColour::Rapid, scheme));
   c.feed = qColour(s.colour(PathColour::Feed, scheme));
