@@ -7,11 +7,12 @@
 
 #include "commands.h"
 #include "extend/toolpath/motion_model.h"
-#include "extend/toolpath/scheme_reading.h"
 #include "extend/toolpath/toolpath_text.h"
+#include "format/pass_frame.h"
 #include "format/scheme_data_file.h"
 #include "options.h"
 #include "platform/errors.h"
+#include "workspace/toolpath_reading.h"
 
 namespace lathwick::cli {
 
@@ -61,7 +62,7 @@ int modelInput(const Args& args, OnMove&& onMove) {
   }
   const auto comment = p.value("--comment");
   ModelOptions options;
-  options.reader = readerOptionsFor(scheme, comment ? &*comment : nullptr);
+  options.reader = toolpathReaderOptions(makePassFrame(scheme, comment ? &*comment : nullptr));
   Output warnings(stderr);
   MotionModel model(options, onMove, [&](const Warning& w) { warnings.line(warningText(w)); });
   std::string buffer(256 * 1024, '\0');

@@ -47,11 +47,13 @@ TEST(ToolpathBadInput, BadNumbersAndGarbageBytesWarnOnTheirLine) {
 }
 
 TEST(ToolpathBadInput, MacroTextGivesOneWarningAndTheLineIsNotFollowed) {
-  const Modelled r = model("\xEF\xBB\xBFo<helix> sub\n#<x> = [#<r> * cos[30] + 1]\nG1 X[#<x>+1] F10\nG1 X1 F10\n");
+  const Modelled r = model("\xEF\xBB\xBFo<helix> sub\n#<x> = [#<r> * cos[30] + 1]\nG1 X[#<x>+1] F10\nX1\n");
   EXPECT_EQ(texts(r), (std::vector<std::string>{"1: unsupported O<HELIX>", "2: unsupported #<X>",
-                                                "3: unsupported X[#<X>+1]"}));
+                                                "3: unsupported X[#<X>+1]", "4: feed move without a feed rate"}));
   ASSERT_EQ(r.moves.size(), 1u);
   EXPECT_EQ(r.moves[0].line, 4u);
+  EXPECT_EQ(r.moves[0].kind, MoveKind::Feed);  // the G1 before the macro text still counts
+  EXPECT_DOUBLE_EQ(r.moves[0].feed, 0);        // the F after it does not
 }
 
 TEST(ToolpathBadInput, RandomBytesNeverStopTheModel) {

@@ -47,7 +47,7 @@ TEST(ToolpathReading, BlockSkipWithinTheFirstFourCharactersAndCommentsAsTheColor
 
 TEST(ToolpathReading, TheSchemesCommentPairAndBlockSkipText) {
   ModelOptions options;
-  options.reader.comment = commentDelimitersFor("[");
+  options.reader.comment = {'[', ']', true};
   options.reader.blockSkip = "DEL";
   const Modelled r = model("G0 X1 [Y9] (\nDEL X9\n", options);
   ASSERT_EQ(r.moves.size(), 1u);

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdio>
 
-#include "format/g_words.h"
 
 namespace lathwick::toolpath {
 
@@ -46,8 +45,9 @@ BlockRead BlockReader::read(std::string_view line, std::vector<Word>& words, std
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
   BlockRead result;
   if (!options_.blockSkip.empty()) {
-    const std::size_t at = inStr(1, upper_, options_.blockSkip);
-    if (at >= 1 && at <= 4) {
+    // Found within the first four characters (its first occurrence, as the colorizer looks).
+    const std::size_t at = upper_.find(options_.blockSkip);
+    if (at != std::string::npos && at < 4) {
       result.skipped = true;
       return result;
     }

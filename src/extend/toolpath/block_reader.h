@@ -7,13 +7,12 @@
 //
 // What cannot be read is reported as a problem text for the caller to turn into a warning:
 // "bad number X--1", "unsupported #1=5", "unreadable byte 0x07". Macro expressions and keywords
-// ("#", "[", "SUB", "IF" ...) make the line's words unreliable: the line is then marked so its
-// motion is not followed.
+// ("#", "[", "SUB", "IF" ...) end the reading of the line: the words before them are kept and
+// the line is marked so that its motion is not followed.
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "format/pass_frame.h"
 
 namespace lathwick::toolpath {
 
@@ -23,8 +22,16 @@ struct Word {
   std::string_view text;  // the word as written, upper-cased ("G01", "X-1.5"); valid until the next read
 };
 
+// The comment pair of the scheme: `open` starts a comment, `close` ends it (the colorizer's rule
+// turns the scheme's comment text into the pair: workspace/toolpath_reading.h).
+struct CommentPair {
+  char open = '(';
+  char close = ')';
+  bool active = true;  // false when the scheme's comment text is empty: no comments
+};
+
 struct ReaderOptions {
-  CommentDelimiters comment;     // default "(" ")"
+  CommentPair comment;           // default "(" ")"
   std::string blockSkip = "/";   // trimmed block-skip text; empty: no block skip
 };
 

@@ -44,6 +44,7 @@ Move MoveList::operator[](std::size_t i) const {
 namespace {
 
 constexpr std::size_t kPiece = 256 * 1024;
+constexpr std::uint64_t kProgressFrom = 64 * 1024;
 
 // Feeds the program piece by piece through `read` (which returns the next piece, empty at the
 // end), reporting progress in thousandths of `totalBytes` and stopping when cancel is asked.
@@ -61,12 +62,17 @@ ModelledProgram run(std::uint64_t totalBytes, const ModelOptions& options, PassM
         ++result.warningCount;
       });
   monitor.clearCancel();
-  monitor.progressStart(1000);
+  // Short programs are modelled at once; long ones show progress like the other passes.
+  const bool showProgress = totalBytes > kProgressFrom;
+  if (showProgress) {
+    monitor.statusText("Processing... [Esc] to cancel");
+    monitor.progressStart(1000);
+  }
   std::uint64_t done = 0;
   for (std::string_view piece = read(); !piece.empty(); piece = read()) {
     model.feed(piece);
     done += piece.size();
-    monitor.progressValue(totalBytes ? static_cast<long>(done * 1000 / totalBytes) : 1000);
+    if (showProgress) monitor.progressValue(static_cast<long>(done * 1000 / totalBytes));
     monitor.pumpEvents();
     if (monitor.cancelRequested()) {
       monitor.clearCancel();
@@ -75,7 +81,7 @@ ModelledProgram run(std::uint64_t totalBytes, const ModelOptions& options, PassM
     }
   }
   if (!result.cancelled) model.finish();
-  monitor.progressEnd();
+  if (showProgress) monitor.progressEnd();
   result.lines = model.linesRead();
   return result;
 }

@@ -24,9 +24,11 @@ void MotionModel::State::readLine(std::string_view text) {
   if (line == 1 && text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
   const BlockRead read = reader.read(text, words, problems);
   for (std::string& p : problems) warn(std::move(p));
-  if (read.skipped || read.unreliable || words.empty()) return;
+  if (read.skipped || words.empty()) return;
   gather();
-  if (axesHeld) return;
+  // Past macro text the line's end point is unknown: its modal words (read before the macro
+  // text) still count, as in "G1 Z#2", which makes the following lines feed moves.
+  if (axesHeld || read.unreliable) return;
   if (cycle != Cycle::None && (cycleWord || lw.anyAxis())) {
     runCycle();
   } else if (motion == Motion::ArcCw || motion == Motion::ArcCcw) {

@@ -10,6 +10,7 @@
 #include "document/gui/frm_editor.h"
 #include "extend/gui/extend_commands.h"
 #include "extend/gui/verify_commands.h"
+#include "extend/gui/graphics_commands.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/print_scheme_commands.h"
@@ -26,6 +27,7 @@ void MDIForm1::registerCommands() {
   registerExtendCommands(*this);
   registerPrintAndSchemeCommands(*this);
   registerVerifyCommands(commands_, *this, this);
+  registerGraphicsCommands(commands_, *this, settings_);
 }
 
 // The frame's own commands: files, view settings, help and the Window menu.
