@@ -55,6 +55,9 @@ bool saveNeedsName(const std::string& fileName);
 std::string fixChosenSaveName(std::string name);
 
 inline constexpr const char* kFileNotSaved = "File not saved.";
+// The Save As Plain Text dialog, which Save shows for a document that has no name yet.
+inline constexpr const char* kPlainTitle = "Save As Plain Text File";
+inline constexpr const char* kPlainFilter = "Text (*.*)|*.*|Text (*.TXT)|*.TXT";
 
 // The close query ---------------------------------------------------------------------------
 std::string closeQueryMessage(const std::string& windowCaption);

@@ -7,7 +7,7 @@
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/file_system.h"
-#include "shell/startup.h"
+#include "platform/app_names.h"
 
 namespace lathwick {
 
@@ -83,7 +83,7 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
     bytes = std::move(*existing);
   }
   const long count = countOf(static_cast<long long>(bytes.size()));
-  if (n < 1 || n > count + 1) throw DataFileProblem(err::kBadFileNameOrNumber);
+  if (n < 1 || n > count + 1) throw DataFileProblem(err::kBadFileName);
   const std::size_t at = static_cast<std::size_t>(n - 1) * kSchemeRecordSize;
   if (bytes.size() < at + kSchemeRecordSize) bytes.resize(at + kSchemeRecordSize);
   bytes.replace(at, kSchemeRecordSize, encodeSchemeRecord(record));

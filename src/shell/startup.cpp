@@ -3,8 +3,8 @@
 #include <exception>
 
 #include "platform/vb_convert.h"
-#include "shell/app_folder.h"
-#include "shell/settings_table.h"
+#include "platform/app_folder.h"
+#include "platform/settings_table.h"
 
 namespace lathwick {
 

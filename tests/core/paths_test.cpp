@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "document/paths.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "support/temp_dir.h"
 
 using namespace lathwick;

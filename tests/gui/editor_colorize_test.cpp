@@ -7,7 +7,7 @@
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
 #include "frame_fixture.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 #include "shell/gui/status_panels.h"
 #include "shell/gui/mdi_form.h"
 

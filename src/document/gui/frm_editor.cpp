@@ -11,16 +11,17 @@
 #include <QVBoxLayout>
 
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/rich_text_control.h"
 #include "document/selection_length.h"
 #include "format/scheme_data_file.h"
-#include "shell/gui/mdi_form.h"
-#include "shell/gui/menu_set.h"
-#include "shell/gui/status_panels.h"
+#include "format/scheme_record.h"
+#include "workspace/command_dispatch.h"
+#include "workspace/gui/menu_set.h"
 
 namespace lathwick::gui {
 
-frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
+frmEditor::frmEditor(EditorHost& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -40,7 +41,7 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoa
   connect(text_, &TextControl::selectionChanged, this, &frmEditor::onSelectionChanged);
 }
 
-frmEditor::~frmEditor() { frame_.forgetTarget(this); }
+frmEditor::~frmEditor() { frame_.forgetEditor(*this); }
 
 RichTextBox& frmEditor::richTextBox() const { return rich_->box(); }
 
@@ -83,13 +84,13 @@ DefaultTextStyle frmEditor::defaultTextStyle() const {
 bool frmEditor::reloadDocument(const std::string& path, TextKind kind) {
   const bool done = ::lathwick::ReloadDocument(rich_->box(), path,
                                                kind == TextKind::Rich ? FileKind::RichText : FileKind::PlainText,
-                                               defaultTextStyle(), frame_.values().UndoFile);
+                                               defaultTextStyle(), frame_.editorFiles().undo);
   ShowLineNum();
   return done;
 }
 
 void frmEditor::ShowLineNum() {
-  frame_.statusPanels().setText("Range", "Line " + std::to_string(currentLine() + 1) + " of " +
+  frame_.setPanelText("Range", "Line " + std::to_string(currentLine() + 1) + " of " +
                                              std::to_string(LineCount()) + " ");
 }
 
@@ -100,7 +101,7 @@ void frmEditor::En_Dis_able() {
   for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
     menus_->setEnabled(name, selection);
   menus_->setEnabled("mnuUndo", undoable_.get() || text_->canUndo());
-  frame_.En_Dis_able();
+  frame_.refreshCommandStates();
 }
 
 void frmEditor::Form_Activate() {
@@ -108,7 +109,7 @@ void frmEditor::Form_Activate() {
   frame_.setCurrentScheme(record().scheme);
   if (const SchemeRecord* scheme = frame_.currentSchemeRecord())
     text_->setColours(scheme->backColour, scheme->style(0, kOtherTextStyle).colour);
-  frame_.statusPanels().setOverwrite(text_->overwriteMode());
+  frame_.setOverwrite(text_->overwriteMode());
   En_Dis_able();
 }
 
@@ -124,17 +125,15 @@ void frmEditor::onSelectionChanged() {
   if (frame_.activeEditor() == this) En_Dis_able();
 }
 
-void frmEditor::Save() {
-  if (saveNeedsName(record().fileName))
-    frame_.saveAsPlain(*this);
-  else
-    frame_.SaveFile(*this, record().fileName);
+bool frmEditor::Save() {
+  if (saveNeedsName(record().fileName)) return frame_.saveAsPlain(*this);
+  return frame_.saveFile(*this, record().fileName);
 }
 
 void frmEditor::LoadMenuArray() {
   SchemeList list;
   try {
-    list = loadSchemeList(frame_.values().DataFilePath, record().scheme);
+    list = loadSchemeList(frame_.editorFiles().dataFile, record().scheme);
   } catch (const AppError&) {
     list.dataFileProblem = true;
   }
@@ -212,7 +211,7 @@ bool frmEditor::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::KeyRelease:
       ShowLineNum();
-      frame_.statusPanels().setOverwrite(text_->overwriteMode());
+      frame_.setOverwrite(text_->overwriteMode());
       break;
     case QEvent::MouseButtonRelease:
       ShowLineNum();

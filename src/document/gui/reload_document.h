@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick {
 

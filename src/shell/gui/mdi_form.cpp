@@ -20,8 +20,8 @@
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
-#include "shell/app_folder.h"
-#include "shell/gui/menu_set.h"
+#include "platform/app_folder.h"
+#include "workspace/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 #include "transform/gui/cancel_flag.h"
 #include "transform/gui/transform_dialogs.h"
@@ -45,6 +45,7 @@ QIcon toolbarIcon(const std::string& key) {
 MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent)
     : QMainWindow(parent),
       values_(values),
+      editorFiles_{values.Temp2File, values.Temp3File, values.UndoFile, values.DataFilePath},
       settings_(settings),
       mdi_(new QMdiArea(this)),
       currentScheme_(values.CurrentScheme) {

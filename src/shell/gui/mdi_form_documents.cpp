@@ -17,22 +17,19 @@
 #include "platform/errors.h"
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "shell/gui/mdi_form.h"
-#include "shell/gui/menu_set.h"
-#include "shell/history.h"
+#include "workspace/gui/menu_set.h"
+#include "workspace/history.h"
 
 namespace lathwick::gui {
 namespace {
 QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
 
-constexpr const char* kPlainFilter = "Text (*.*)|*.*|Text (*.TXT)|*.TXT";
-constexpr const char* kPlainTitle = "Save As Plain Text File";
-
 // Opens the file for reading and closes it again, so a missing or unreadable file ends the load
 // with the runtime's own error.
 void checkReadable(const std::string& name) {
-  if (isDirectory(name)) throw makeError(err::kPathFileAccess);
+  if (isDirectory(name)) throw makeError(err::kPathFileAccessError);
   if (!isRegularFile(name)) throw makeError(err::kFileNotFound);
   std::ifstream probe(nativePath(name), std::ios::binary);
   if (!probe) throw makeError(err::kPermissionDenied);
@@ -103,7 +100,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     const int index = documents_.findFreeSlot();
     editor = createWindow(index);
     documents_.record(index).scheme = currentScheme_;
-    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccess);
+    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccessError);
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
     settings_.save("Startup", "LastPath", lastPath_);
@@ -148,14 +145,14 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   return true;
 }
 
-void MDIForm1::saveAsPlain(frmEditor& window) {
+bool MDIForm1::saveAsPlain(frmEditor& window) {
   std::string current = window.record().fileName;
   FileRequest request{true, kPlainTitle, kPlainFilter, "", ""};
   request.fileName = FileNameOf(current);
   request.initialFolder = PathOf(current);
   const auto chosen = dialogs().chooseFile(request);
-  if (!chosen) return;
-  SaveFile(window, fixChosenSaveName(*chosen));
+  if (!chosen) return false;
+  return SaveFile(window, fixChosenSaveName(*chosen));
 }
 
 void MDIForm1::saveAsRich(frmEditor& window) {

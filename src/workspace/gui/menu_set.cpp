@@ -1,4 +1,4 @@
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 
 #include <QAction>
 #include <QKeySequence>

@@ -1,4 +1,4 @@
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
