@@ -1,5 +1,6 @@
 // add-spaces: a space between each address word and the number before it, comments untouched.
 #include "commands.h"
+#include "pass_input.h"
 #include "transform/spaces.h"
 #include "transform_common.h"
 
@@ -8,8 +9,11 @@ namespace lathwick::cli {
 int cmdAddSpaces(const Args& args) {
   const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({}), 2, "IN and OUT");
   const std::string& in = p.positionals()[0];
-  return finishPass(transform::runAddSpaces(in, p.positionals()[1], commentStartFromOptions(p), silentMonitor()),
-                    false, in);
+  const std::string& out = p.positionals()[1];
+  const PassInput input(in);
+  return finishPass(
+      input.plainOut(transform::runAddSpaces(input.path(), out, commentStartFromOptions(p), silentMonitor()), out),
+      false, in);
 }
 
 }  // namespace lathwick::cli

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "commands.h"
+#include "pass_input.h"
 #include "format/colorizer.h"
 #include "format/scheme_data_file.h"
 #include "options.h"
@@ -28,7 +29,8 @@ int cmdColorize(const Args& args) {
     return kExitRefused;
   }
   const auto comment = p.value("--comment");
-  const ColorizeResult r = colorizeFile(scheme, view, in, out, silentMonitor(), comment ? &*comment : nullptr);
+  const PassInput input(in);
+  const ColorizeResult r = colorizeFile(scheme, view, input.path(), out, silentMonitor(), comment ? &*comment : nullptr);
   switch (r.outcome) {
     case ColorizeOutcome::Done: return kExitOk;
     case ColorizeOutcome::NoInput:

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "commands.h"
+#include "pass_input.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
 #include "transform/numeric_picture.h"
@@ -53,7 +54,8 @@ int cmdOperate(const Args& args) {
   req.displayLineCount = 0;
   const transform::RichTextFrame frame = frameFromOptions(p);
   const std::string& in = p.positionals()[0];
-  return finishPass(transform::runOperate(in, p.positionals()[1], req, frame, silentMonitor()), true, in);
+  const PassInput input(in);  // rich OUTs end their lines with CR LF whatever IN had
+  return finishPass(transform::runOperate(input.path(), p.positionals()[1], req, frame, silentMonitor()), true, in);
 }
 
 }  // namespace lathwick::cli

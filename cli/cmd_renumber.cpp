@@ -1,6 +1,7 @@
 // renumber --start S --increment I --char N --skip CHARS --method 0|1|2: new sequence numbers
 // over the range, written as plain text.
 #include "commands.h"
+#include "pass_input.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
@@ -40,7 +41,9 @@ int cmdRenumber(const Args& args) {
   req.range = rangeFromOptions(p);
   const std::string& in = p.positionals()[0];
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);
-  return finishPass(transform::runRenumber(in, p.positionals()[1], req, silentMonitor()), false, in);
+  const std::string& out = p.positionals()[1];
+  const PassInput input(in);
+  return finishPass(input.plainOut(transform::runRenumber(input.path(), out, req, silentMonitor()), out), false, in);
 }
 
 }  // namespace lathwick::cli

@@ -1,5 +1,6 @@
 // replace --find T --replace R: Replace All over the range, written as the scheme's rich text.
 #include "commands.h"
+#include "pass_input.h"
 #include "transform_common.h"
 
 namespace lathwick::cli {
@@ -9,7 +10,8 @@ int cmdReplace(const Args& args) {
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
   const std::string& in = p.positionals()[0];
-  return finishPass(transform::runReplaceAll(in, p.positionals()[1], req, frame, silentMonitor()), true, in);
+  const PassInput input(in);  // rich OUTs end their lines with CR LF whatever IN had
+  return finishPass(transform::runReplaceAll(input.path(), p.positionals()[1], req, frame, silentMonitor()), true, in);
 }
 
 }  // namespace lathwick::cli

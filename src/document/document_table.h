@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "document/line_convention.h"
+
 namespace lathwick {
 
 struct DocumentRecord {
@@ -13,6 +15,7 @@ struct DocumentRecord {
   bool changed = false;
   std::int16_t scheme = 0;
   std::string fileName;
+  LineEnds lineEnds = LineEnds::CrLf;  // as loaded; the window always holds CR LF
 };
 
 class DocumentTable {

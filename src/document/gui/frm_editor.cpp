@@ -9,17 +9,33 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "document/document_table.h"
 #include "document/gui/editor_host.h"
 #include "document/gui/rich_text_control.h"
 #include "document/selection_length.h"
+#include "platform/bytes.h"
 #include "format/scheme_data_file.h"
 #include "format/scheme_record.h"
 #include "workspace/command_dispatch.h"
 #include "workspace/gui/menu_set.h"
 
 namespace lathwick::gui {
+
+namespace {
+// A window opens wholly inside the frame's working area: the cascade of earlier windows may
+// have pushed it past the right or lower edge.
+void keepInside(QMdiSubWindow& sub, const QSize& room) {
+  if (sub.isMaximized() || sub.isMinimized() || room.isEmpty()) return;
+  QRect r = sub.geometry();
+  r.setSize(r.size().boundedTo(room));
+  if (r.right() >= room.width()) r.moveRight(room.width() - 1);
+  if (r.bottom() >= room.height()) r.moveBottom(room.height() - 1);
+  r.moveTopLeft(QPoint(std::max(0, r.left()), std::max(0, r.top())));
+  if (r != sub.geometry()) sub.setGeometry(r);
+}
+}  // namespace
 
 frmEditor::frmEditor(EditorHost& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
@@ -55,7 +71,10 @@ void frmEditor::prepare() {
   show();
   if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
     sub->show();
-    if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
+    if (QMdiArea* area = sub->mdiArea()) {
+      area->setActiveSubWindow(sub);
+      keepInside(*sub, area->viewport()->size());
+    }
   }
   text_->widget()->setFocus();
 }
@@ -76,6 +95,7 @@ DefaultTextStyle frmEditor::defaultTextStyle() const {
     style.bold = text.bold;
     style.italic = text.italic;
     style.underline = text.underline;
+    style.fixedPitch = trimBlanks(text.family) == "fmodern";
     style.indentTwips = scheme->indentSteps() * 200;
   }
   return style;
@@ -201,12 +221,28 @@ bool frmEditor::handleAltKey(int key) {
   }
 }
 
+void frmEditor::changeEvent(QEvent* event) {
+  // The caption may be a shortened path: the window's title bar tells the whole path on hover.
+  auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget());
+  if (event->type() == QEvent::WindowTitleChange && sub && frame_.documents().valid(tag_))
+    sub->setToolTip(QString::fromLocal8Bit(filename().c_str()));
+  QWidget::changeEvent(event);
+}
+
 bool frmEditor::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::ToolTip:
+      return true;  // the text itself has none: the window's path tooltip is for its title bar
     case QEvent::KeyPress: {
       auto* key = static_cast<QKeyEvent*>(event);
       const auto mods = key->modifiers() & ~Qt::KeypadModifier;
       if (mods == Qt::AltModifier && handleAltKey(key->key())) return true;
+      // Ctrl+Z is Edit > Undo: while the window holds the undo file it brings back the text
+      // from before the last transformation; otherwise the control undoes its own last edit.
+      if (mods == Qt::ControlModifier && key->key() == Qt::Key_Z && FileUndoable()) {
+        Undo();
+        return true;
+      }
       break;
     }
     case QEvent::KeyRelease:

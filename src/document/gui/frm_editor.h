@@ -120,6 +120,7 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

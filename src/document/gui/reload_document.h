@@ -19,6 +19,7 @@ struct DefaultTextStyle {
   bool bold = false;
   bool italic = false;
   bool underline = false;
+  bool fixedPitch = true;  // the scheme's family keyword is "fmodern"
   int indentTwips = 0;
 };
 

@@ -13,6 +13,7 @@
 #include "document/file_errors.h"
 #include "document/gui/frm_editor.h"
 #include "document/paths.h"
+#include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
@@ -100,7 +101,12 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     const int index = documents_.findFreeSlot();
     editor = createWindow(index);
     documents_.record(index).scheme = currentScheme_;
-    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccessError);
+    // A program with Linux line ends is worked on as its CR LF twin and saved back with LF.
+    LineEnds lineEnds = LineEnds::CrLf;
+    if (!isRichTextName(fileName))
+      lineEnds = copyAsCrLfTwin(fileName, values_.Temp2File);
+    else if (!copyFile(fileName, values_.Temp2File))
+      throw makeError(err::kPathFileAccessError);
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
     settings_.save("Startup", "LastPath", lastPath_);
@@ -108,6 +114,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     editor->rtfTextBox().loadFile(values_.Temp2File, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
     DocumentRecord& record = documents_.record(index);
     record.fileName = fileName;
+    record.lineEnds = lineEnds;
     editor->setWindowTitle(q(captionAfterLoad(fileName)));
     applyAutoFormat();
     recentListUpdate(fileName);
@@ -131,7 +138,11 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
 bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   try {
     HourGlass wait;
-    window.rtfTextBox().saveFile(fileName, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
+    const LineEnds lineEnds = window.record().lineEnds;
+    if (!isRichTextName(fileName) && lineEnds != LineEnds::CrLf)
+      writeFileAtomically(fileName, withLineEnds(window.rtfTextBox().text(), lineEnds));
+    else
+      window.rtfTextBox().saveFile(fileName, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
   } catch (const std::exception& e) {
     dialogs().message(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
     return false;
@@ -227,7 +238,10 @@ void MDIForm1::rebuildRecentMenus() {
       QAction* action = set.action("mnuRecentFile", i);
       const bool used = i <= static_cast<int>(entries.size());
       action->setVisible(used);
-      if (used) action->setText(q(entries[static_cast<std::size_t>(i - 1)].caption));
+      if (!used) continue;
+      const RecentEntry& entry = entries[static_cast<std::size_t>(i - 1)];
+      action->setText(q(entry.caption));
+      action->setToolTip(q(entry.path));  // the caption may be shortened
     }
   };
   const auto frameEntries = RecentMenuEntries(settings_, false);
