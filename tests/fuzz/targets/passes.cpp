@@ -149,10 +149,11 @@ int passes(const std::uint8_t* data, std::size_t size) {
     case 5: checkResult(runRemoveSpaces(in, out, fields.next(), silentMonitor())); break;
     default: {
       checkResult(runJunkFilter(in, out, silentMonitor()));
-      // What the junk filter writes is clean: filtering it again changes nothing. (An input
-      // with nothing to keep gives one CR LF, which a second filter drops as a blank line.)
+      // What the junk filter writes is clean: filtering it again changes nothing. (Output with
+      // nothing but line breaks is not a fixed point: an empty file gives one CR LF, a file of
+      // blank lines gives nothing.)
       const std::string filtered = readFile(out);
-      if (filtered != "\r\n") FUZZ_CHECK(junkFilter(filtered) == filtered);
+      if (filtered.find_first_not_of("\r\n") != std::string::npos) FUZZ_CHECK(junkFilter(filtered) == filtered);
     }
   }
   return 0;
