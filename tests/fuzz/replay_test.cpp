@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -29,6 +30,9 @@ const NamedTarget kTargets[] = {
     {"passes", lathwick::fuzz::passes},
     {"scheme_data_file", lathwick::fuzz::schemeDataFile},
 };
+
+// The test's name says which target; gtest prints the parameter with it.
+void PrintTo(const NamedTarget& target, std::ostream* os) { *os << target.name; }
 
 std::vector<fs::path> inputsUnder(const fs::path& folder) {
   std::vector<fs::path> files;
