@@ -19,6 +19,7 @@
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_folder.h"
 #include "workspace/gui/menu_set.h"
@@ -70,6 +71,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
 }
 
 MDIForm1::~MDIForm1() {
+  setEscapedErrorCleanup({});
   qApp->removeEventFilter(this);
   // The documents go first: their windows still reach the frame while they are torn down.
   for (QMdiSubWindow* sub : mdi_->subWindowList()) delete sub;

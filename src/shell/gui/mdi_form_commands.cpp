@@ -8,6 +8,8 @@
 
 #include "document/gui/document_commands.h"
 #include "document/gui/frm_editor.h"
+#include "format/colorizer.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "transform/gui/transform_commands.h"
@@ -17,6 +19,10 @@ namespace lathwick::gui {
 
 // Each part of the program adds its own commands; a new part is one more line here.
 void MDIForm1::registerCommands() {
+  // Whatever a command lets escape is reported and the program goes on; the status bar is put
+  // back first, as a finished command would leave it.
+  setEscapedErrorCleanup([this] { setStatusText(kReadyStatus); });
+  commands_.setBoundary(reportEscapedError);
   registerFrameCommands();
   registerDocumentCommands(commands_, *this);
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
