@@ -5,11 +5,12 @@
 
 #include "document/document_table.h"
 #include "document/gui/frm_editor.h"
+#include "platform/gui/command_guard.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+  lathwick::gui::GuardedApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
 
   // "--quit-after-start" lets tests and scripts check that start-up completes;

@@ -20,6 +20,7 @@
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_folder.h"
 #include "workspace/gui/menu_set.h"
@@ -73,6 +74,7 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
 }
 
 MDIForm1::~MDIForm1() {
+  setEscapedErrorCleanup({});
   qApp->removeEventFilter(this);
   setPassObserver({});
   // The documents go first: their windows still reach the frame while they are torn down. The

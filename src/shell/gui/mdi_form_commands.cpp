@@ -11,6 +11,8 @@
 #include "extend/gui/extend_commands.h"
 #include "extend/gui/verify_commands.h"
 #include "extend/gui/graphics_commands.h"
+#include "format/colorizer.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/print_scheme_commands.h"
@@ -21,6 +23,10 @@ namespace lathwick::gui {
 
 // Each part of the program adds its own commands; a new part is one more line here.
 void MDIForm1::registerCommands() {
+  // Whatever a command lets escape is reported and the program goes on; the status bar is put
+  // back first, as a finished command would leave it.
+  setEscapedErrorCleanup([this] { setStatusText(kReadyStatus); });
+  commands_.setBoundary(reportEscapedError);
   registerFrameCommands();
   registerDocumentCommands(commands_, *this);
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
@@ -82,9 +83,9 @@ frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(paren
   cmdUndo_->setObjectName("cmdUndo");
   cmdUndo_->setEnabled(false);
   for (QPushButton* b : {cmdCancel_, cmdUndo_}) b->setAutoDefault(false);
-  connect(cmdOK_, &QPushButton::clicked, this, &frmOperate::onOK);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
   connect(cmdCancel_, &QPushButton::clicked, this, &frmOperate::reject);
-  connect(cmdUndo_, &QPushButton::clicked, this, &frmOperate::onUndo);
+  connect(cmdUndo_, &QPushButton::clicked, this, guarded([this] { onUndo(); }));
 
   lblRange_ = new QLabel(this);
   lblRange_->setObjectName("lblRange");

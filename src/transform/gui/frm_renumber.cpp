@@ -13,6 +13,7 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
@@ -98,7 +99,7 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   Command1_ = new QPushButton("&Cancel", this);
   Command1_->setObjectName("Command1");
   Command1_->setAutoDefault(false);
-  connect(cmdOK_, &QPushButton::clicked, this, &frmRenumber::onOK);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
   connect(Command1_, &QPushButton::clicked, this, &frmRenumber::reject);
 
   auto* buttons = new QHBoxLayout;

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/vb_convert.h"
 #include "workspace/history.h"
@@ -97,11 +98,11 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
   auto* buttons = new QVBoxLayout;
   for (QPushButton* b : {cmdOK_, cmdReplaceAll_, cmdHighlight_, cmdUndo_, cmdCancel_}) buttons->addWidget(b);
   buttons->addStretch();
-  connect(cmdOK_, &QPushButton::clicked, this, &frmSearch::onOK);
-  connect(cmdReplaceAll_, &QPushButton::clicked, this, &frmSearch::onReplaceAll);
-  connect(cmdHighlight_, &QPushButton::clicked, this, &frmSearch::onHighlight);
-  connect(cmdUndo_, &QPushButton::clicked, this, &frmSearch::onUndo);
-  connect(cmdCancel_, &QPushButton::clicked, this, &frmSearch::onCancel);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
+  connect(cmdReplaceAll_, &QPushButton::clicked, this, guarded([this] { onReplaceAll(); }));
+  connect(cmdHighlight_, &QPushButton::clicked, this, guarded([this] { onHighlight(); }));
+  connect(cmdUndo_, &QPushButton::clicked, this, guarded([this] { onUndo(); }));
+  connect(cmdCancel_, &QPushButton::clicked, this, guarded([this] { onCancel(); }));
 
   auto* help = new QLabel(kSearchHelpLine, this);
   help->setObjectName("lblHelp");
