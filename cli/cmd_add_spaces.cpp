@@ -6,10 +6,11 @@
 namespace lathwick::cli {
 
 int cmdAddSpaces(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({}), 2, "IN and OUT");
-  const std::string& in = p.positionals()[0];
-  return finishPass(transform::runAddSpaces(in, p.positionals()[1], commentStartFromOptions(p), silentMonitor()),
-                    false, in);
+  const ParsedArgs p = parseFileCommand(args, withSchemeOptions({}), "IN and OUT");
+  const std::string commentStart = commentStartFromOptions(p);
+  return forEachFile(p, [&](const FileJob& job) {
+    return finishPass(transform::runAddSpaces(job.in, job.out, commentStart, silentMonitor()), false, job);
+  });
 }
 
 }  // namespace lathwick::cli

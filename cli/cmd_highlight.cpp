@@ -5,11 +5,12 @@
 namespace lathwick::cli {
 
 int cmdHighlight(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, searchOptionSpecs(false), 2, "IN and OUT");
+  const ParsedArgs p = parseFileCommand(args, searchOptionSpecs(false), "IN and OUT");
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
-  const std::string& in = p.positionals()[0];
-  return finishPass(transform::runHighlightAll(in, p.positionals()[1], req, frame, silentMonitor()), true, in);
+  return forEachFile(p, [&](const FileJob& job) {
+    return finishPass(transform::runHighlightAll(job.in, job.out, req, frame, silentMonitor()), true, job);
+  });
 }
 
 }  // namespace lathwick::cli

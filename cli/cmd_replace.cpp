@@ -5,11 +5,12 @@
 namespace lathwick::cli {
 
 int cmdReplace(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, searchOptionSpecs(true), 2, "IN and OUT");
+  const ParsedArgs p = parseFileCommand(args, searchOptionSpecs(true), "IN and OUT");
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
-  const std::string& in = p.positionals()[0];
-  return finishPass(transform::runReplaceAll(in, p.positionals()[1], req, frame, silentMonitor()), true, in);
+  return forEachFile(p, [&](const FileJob& job) {
+    return finishPass(transform::runReplaceAll(job.in, job.out, req, frame, silentMonitor()), true, job);
+  });
 }
 
 }  // namespace lathwick::cli
