@@ -10,6 +10,7 @@
 
 #include "platform/errors.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "shell/settings_table.h"
 #include "shell/startup.h"
@@ -53,6 +54,7 @@ bool excludeCommentsSetting(const SettingsStore& settings) {
 }  // namespace
 
 frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "operate.html");
   setObjectName("frmOperate");
   setWindowTitle("Operate");
   setWindowModality(Qt::ApplicationModal);

@@ -13,6 +13,7 @@
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "shell/settings_table.h"
 #include "shell/startup.h"
@@ -48,6 +49,7 @@ std::int32_t wholeNumber(const QString& text) {
 }  // namespace
 
 frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "renumber.html");
   setObjectName("frmRenumber");
   setWindowTitle("Renumber File");
   setWindowModality(Qt::ApplicationModal);

@@ -11,6 +11,7 @@
 
 #include "platform/errors.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "shell/history.h"
 #include "shell/settings_table.h"
@@ -61,6 +62,7 @@ QComboBox* historyBox(QWidget* parent, const char* name) {
 }  // namespace
 
 frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "search.html");
   setObjectName("frmSearch");
   setWindowTitle("Search And Replace");
   setWindowModality(Qt::ApplicationModal);
