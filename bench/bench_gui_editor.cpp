@@ -19,9 +19,9 @@
 #include "generated_program.h"
 #include "gui_bench_main.h"
 #include "platform/gui/dialogs.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 #include "shell/gui/mdi_form.h"
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "shell/startup.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include "document/gui/reload_document.h"
 #include "generated_program.h"
 #include "gui_bench_main.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace {
 

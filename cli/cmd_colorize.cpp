@@ -3,6 +3,7 @@
 #include <string>
 
 #include "commands.h"
+#include "pass_input.h"
 #include "format/colorizer.h"
 #include "file_args.h"
 #include "format/scheme_data_file.h"
@@ -28,8 +29,9 @@ int cmdColorize(const Args& args) {
   }
   const auto comment = p.value("--comment");
   return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);
     const ColorizeResult r =
-        colorizeFile(scheme, view, job.in, job.out, silentMonitor(), comment ? &*comment : nullptr);
+        colorizeFile(scheme, view, input.path(), job.out, silentMonitor(), comment ? &*comment : nullptr);
     switch (r.outcome) {
       case ColorizeOutcome::Done: return kExitOk;
       case ColorizeOutcome::NoInput:

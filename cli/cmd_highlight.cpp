@@ -1,5 +1,6 @@
 // highlight --find T: Highlight All over the range; the text stays, every occurrence is marked.
 #include "commands.h"
+#include "pass_input.h"
 #include "transform_common.h"
 
 namespace lathwick::cli {
@@ -9,7 +10,8 @@ int cmdHighlight(const Args& args) {
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
-    return finishPass(transform::runHighlightAll(job.in, job.out, req, frame, silentMonitor()), true, job);
+    const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
+    return finishPass(transform::runHighlightAll(input.path(), job.out, req, frame, silentMonitor()), true, job);
   });
 }
 

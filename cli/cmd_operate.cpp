@@ -4,9 +4,10 @@
 #include <cstdio>
 
 #include "commands.h"
+#include "pass_input.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
-#include "shell/settings_table.h"
+#include "platform/settings_table.h"
 #include "transform/numeric_picture.h"
 #include "transform/operate.h"
 #include "transform_common.h"
@@ -65,7 +66,8 @@ int cmdOperate(const Args& args) {
   req.displayLineCount = 0;
   const transform::RichTextFrame frame = frameFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
-    return finishPass(transform::runOperate(job.in, job.out, req, frame, silentMonitor()), true, job);
+    const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
+    return finishPass(transform::runOperate(input.path(), job.out, req, frame, silentMonitor()), true, job);
   });
 }
 

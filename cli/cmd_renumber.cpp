@@ -2,10 +2,11 @@
 // numbers over the range, written as plain text. An option left out takes the renumber dialog's
 // default (start 100, increment 1, "N", skip "%", method 2: all non-comment lines).
 #include "commands.h"
+#include "pass_input.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
-#include "shell/settings_table.h"
+#include "platform/settings_table.h"
 #include "transform/renumber.h"
 #include "transform_common.h"
 
@@ -47,7 +48,9 @@ int cmdRenumber(const Args& args) {
   req.range = rangeFromOptions(p);
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
-    return finishPass(transform::runRenumber(job.in, job.out, req, silentMonitor()), false, job);
+    const PassInput input(job.in);
+    return finishPass(input.plainOut(transform::runRenumber(input.path(), job.out, req, silentMonitor()), job.out),
+                      false, job);
   });
 }
 

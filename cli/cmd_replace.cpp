@@ -1,5 +1,6 @@
 // replace --find T --replace R: Replace All over the range, written as the scheme's rich text.
 #include "commands.h"
+#include "pass_input.h"
 #include "transform_common.h"
 
 namespace lathwick::cli {
@@ -9,7 +10,8 @@ int cmdReplace(const Args& args) {
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
-    return finishPass(transform::runReplaceAll(job.in, job.out, req, frame, silentMonitor()), true, job);
+    const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
+    return finishPass(transform::runReplaceAll(input.path(), job.out, req, frame, silentMonitor()), true, job);
   });
 }
 

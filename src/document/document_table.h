@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "document/line_convention.h"
+
 namespace lathwick {
 
 struct DocumentRecord {
@@ -13,6 +15,7 @@ struct DocumentRecord {
   bool changed = false;
   std::int16_t scheme = 0;
   std::string fileName;
+  LineEnds lineEnds = LineEnds::CrLf;  // as loaded; the window always holds CR LF
 };
 
 class DocumentTable {
@@ -55,6 +58,9 @@ bool saveNeedsName(const std::string& fileName);
 std::string fixChosenSaveName(std::string name);
 
 inline constexpr const char* kFileNotSaved = "File not saved.";
+// The Save As Plain Text dialog, which Save shows for a document that has no name yet.
+inline constexpr const char* kPlainTitle = "Save As Plain Text File";
+inline constexpr const char* kPlainFilter = "Text (*.*)|*.*|Text (*.TXT)|*.TXT";
 
 // The close query ---------------------------------------------------------------------------
 std::string closeQueryMessage(const std::string& windowCaption);

@@ -9,7 +9,7 @@
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 
 namespace lathwick {
 
@@ -21,8 +21,8 @@ AppError openError(int e) {
     case EACCES:
     case EPERM:
     case EROFS: return makeError(err::kPermissionDenied);
-    case EISDIR: return makeError(err::kPathFileAccess);
-    default: return makeError(err::kPathFileAccess);
+    case EISDIR: return makeError(err::kPathFileAccessError);
+    default: return makeError(err::kPathFileAccessError);
   }
 }
 }  // namespace
@@ -82,7 +82,7 @@ std::unique_ptr<OpenedFile> openInMode(const std::string& name, FileMode mode, i
 
 std::unique_ptr<OpenedFile> OpenFile(const std::string& name, int mode, int recordLength, bool ask,
                                      const OpenFilePrompts& prompts) {
-  if (likePattern(name, "*;-?*")) throw makeError(err::kBadFileNameOrNumber);
+  if (likePattern(name, "*;-?*")) throw makeError(err::kBadFileName);
   if (ask) {
     const bool exists = FileExists(name);
     const auto confirm = [&](const std::string& text, const std::string& caption) {

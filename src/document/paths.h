@@ -15,8 +15,11 @@ std::string PathOf(std::string& path);
 // "." + extension (at most four characters written); otherwise "." + extension is appended.
 void ChangeExtension(std::string& path, const std::string& extension);
 
-// Shortens a path for captions and menus: first three characters, " ...", and the tail from
-// the first separator found at or after position length - maximum + 6 (1-based).
+// Shortens a path for captions and menus: the root ("C:\" of a drive, or the first folder, as
+// "/home" or "jobs"), " ...", and the tail from the first separator found at or after position
+// length - maximum + 6 (1-based). The file name itself is always kept: with no separator in that
+// range the tail is the last separator and the name; a path that cannot be shortened that way
+// stays whole.
 std::string ShortenPath(const std::string& path, int maximum);
 
 }  // namespace lathwick

@@ -19,6 +19,7 @@ constexpr Entry kEntries[] = {
     {"rtf", Word::Rtf}, {"ansi", Word::Ansi}, {"ansicpg", Word::AnsiCpg}, {"mac", Word::Mac},
     {"pc", Word::Pc}, {"pca", Word::Pca}, {"deff", Word::Deff}, {"fonttbl", Word::FontTable},
     {"colortbl", Word::ColourTable}, {"fcharset", Word::FontCharset}, {"cpg", Word::CodePage},
+    {"fmodern", Word::FamilyModern},
     {"red", Word::Red}, {"green", Word::Green}, {"blue", Word::Blue},
     {"plain", Word::Plain}, {"f", Word::Font}, {"fs", Word::FontSize}, {"cf", Word::ColourFore},
     {"b", Word::Bold}, {"i", Word::Italic}, {"ul", Word::Underline}, {"ulnone", Word::UnderlineNone},

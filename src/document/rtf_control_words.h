@@ -9,7 +9,7 @@ namespace lathwick::rtf {
 enum class Word : unsigned char {
   Unknown,
   // document and tables
-  Rtf, Ansi, AnsiCpg, Mac, Pc, Pca, Deff, FontTable, ColourTable, FontCharset, CodePage,
+  Rtf, Ansi, AnsiCpg, Mac, Pc, Pca, Deff, FontTable, ColourTable, FontCharset, CodePage, FamilyModern,
   Red, Green, Blue,
   // destinations skipped whole
   SkipDestination,

@@ -17,6 +17,7 @@ inline constexpr int kDefaultHalfPoints = 24;  // 12 points, what RTF means when
 struct RtfFont {
   std::string name;
   int codePage = 0;  // 0: the document's code page
+  bool fixedPitch = false;  // the family keyword \fmodern: a font whose characters line up in columns
 };
 
 struct RtfCharFormat {
@@ -47,6 +48,10 @@ struct RtfDocument {
   std::string fontName(int number) const {
     const auto it = fonts.find(number);
     return it == fonts.end() ? std::string() : it->second.name;
+  }
+  bool fontFixedPitch(int number) const {
+    const auto it = fonts.find(number);
+    return it != fonts.end() && it->second.fixedPitch;
   }
 };
 

@@ -326,6 +326,9 @@ class Reader : private detail::RtfReaderState {
       case Word::CodePage:
         if (state_.destination == Destination::FontTable) fontCodePage_ = param;
         break;
+      case Word::FamilyModern:
+        if (state_.destination == Destination::FontTable) fontFixedPitch_ = true;
+        break;
       case Word::Red: colour_.rgb = (colour_.rgb & 0xFFFF00u) | static_cast<std::uint32_t>(param & 0xFF); colour_.given = true; break;
       case Word::Green: colour_.rgb = (colour_.rgb & 0xFF00FFu) | (static_cast<std::uint32_t>(param & 0xFF) << 8); colour_.given = true; break;
       case Word::Blue: colour_.rgb = (colour_.rgb & 0x00FFFFu) | (static_cast<std::uint32_t>(param & 0xFF) << 16); colour_.given = true; break;

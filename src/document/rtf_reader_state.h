@@ -92,6 +92,7 @@ class RtfReaderState {
   std::string fontName_;
   int fontCodePage_ = 0;
   int fontCharsetPage_ = 0;
+  bool fontFixedPitch_ = false;
   std::vector<int> fontPages_;
   // colour table
   std::vector<std::uint32_t> colours_;

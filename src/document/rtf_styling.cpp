@@ -9,7 +9,11 @@ StyleFormat styleFormatOf(const RtfDocument& doc, const RtfCharFormat& format, c
   if (format == RtfCharFormat{}) return table.defaultFormat();
   StyleFormat s;
   s.fontName = doc.fontName(format.font);
-  if (s.fontName.empty()) s.fontName = table.defaultFormat().fontName;
+  s.fixedPitch = doc.fontFixedPitch(format.font);
+  if (s.fontName.empty()) {
+    s.fontName = table.defaultFormat().fontName;
+    s.fixedPitch = table.defaultFormat().fixedPitch;
+  }
   s.halfPoints = format.halfPoints;
   s.colour = format.colour;
   s.bold = format.bold;

@@ -32,6 +32,16 @@ void appendHex(std::string& out, unsigned char b) {
   out += kDigits[b & 15];
 }
 
+// The family keyword of each font table entry: fixed-pitch fonts say so (when any format with
+// that font name says so), so that a reader without the font can stand in a fixed-pitch one.
+std::map<std::string, std::string> familyKeywords(const StyleTable& table) {
+  std::map<std::string, bool> fixed{{table.defaultFormat().fontName, table.defaultFormat().fixedPitch}};
+  for (int s : table.styles()) fixed[table.format(s).fontName] |= table.format(s).fixedPitch;
+  std::map<std::string, std::string> keywords;
+  for (const auto& [name, isFixed] : fixed) keywords[name] = isFixed ? "\\fmodern" : "\\fnil";
+  return keywords;
+}
+
 // A font name as a font table entry: the RTF specials escaped, ";" (which ends the entry) left
 // out, characters outside ASCII as \'hh.
 std::string fontEntryName(const std::string& name) {
@@ -58,7 +68,9 @@ struct Tables {
   Tables(const StyleTable& table, int indentTwips) : attributes(StyleTable::kStyleCount) {
     std::map<std::string, int> fonts{{table.defaultFormat().fontName, 0}};
     std::map<std::uint32_t, int> colours;
-    std::string fontTable = "{\\fonttbl{\\f0\\fnil " + fontEntryName(table.defaultFormat().fontName) + ";}";
+    std::map<std::string, std::string> family = familyKeywords(table);
+    std::string fontTable = "{\\fonttbl{\\f0" + family[table.defaultFormat().fontName] + " " +
+                            fontEntryName(table.defaultFormat().fontName) + ";}";
     std::string colourTable = "{\\colortbl;";
     for (int s : table.styles()) {
       const StyleFormat& f = table.format(s);
@@ -67,7 +79,7 @@ struct Tables {
         font = fonts.emplace(f.fontName, static_cast<int>(fonts.size())).first;
         fontTable += "{\\f";
         appendNumber(fontTable, font->second);
-        fontTable += "\\fnil " + fontEntryName(f.fontName) + ";}";
+        fontTable += family[f.fontName] + " " + fontEntryName(f.fontName) + ";}";
       }
       int colour = 0;
       if (f.colour != kAutoColour) {

@@ -20,6 +20,8 @@ struct StyleFormat {
   bool bold = false;
   bool italic = false;
   bool underline = false;
+  // The font's family is fixed pitch: a stand-in for a missing font must be fixed pitch too.
+  bool fixedPitch = false;
   bool operator==(const StyleFormat&) const = default;
 };
 

@@ -7,8 +7,8 @@
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/file_system.h"
+#include "platform/app_names.h"
 #include "platform/install_layout.h"
-#include "shell/startup.h"
 
 namespace lathwick {
 
@@ -89,7 +89,7 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
     bytes = std::move(*existing);
   }
   const long count = countOf(static_cast<long long>(bytes.size()));
-  if (n < 1 || n > count + 1) throw DataFileProblem(err::kBadFileNameOrNumber);
+  if (n < 1 || n > count + 1) throw DataFileProblem(err::kBadFileName);
   const std::size_t at = static_cast<std::size_t>(n - 1) * kSchemeRecordSize;
   if (bytes.size() < at + kSchemeRecordSize) bytes.resize(at + kSchemeRecordSize);
   bytes.replace(at, kSchemeRecordSize, encodeSchemeRecord(record));

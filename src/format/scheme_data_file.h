@@ -17,7 +17,7 @@ inline constexpr const char* kDataFileProblemMessage =
 // The data-file message with the number of the underlying runtime error.
 class DataFileProblem : public AppError {
  public:
-  explicit DataFileProblem(int number = err::kPathFileAccess) : AppError(number, kDataFileProblemMessage) {}
+  explicit DataFileProblem(int number = err::kPathFileAccessError) : AppError(number, kDataFileProblemMessage) {}
 };
 
 struct SchemeListEntry {

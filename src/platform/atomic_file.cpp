@@ -21,7 +21,7 @@ AppError errorFromErrno(int e) {
     case EROFS: return makeError(err::kPermissionDenied);
     case ENOENT:
     case ENOTDIR: return makeError(err::kPathNotFound);
-    default: return makeError(err::kPathFileAccess);
+    default: return makeError(err::kPathFileAccessError);
   }
 }
 }  // namespace

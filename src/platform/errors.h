@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/error_texts.h"
+
 namespace lathwick {
 
 class AppError : public std::runtime_error {
@@ -17,20 +19,9 @@ class AppError : public std::runtime_error {
   int number_;
 };
 
-// Runtime error numbers and their standard descriptions, for the errors the core raises itself.
-namespace err {
-inline constexpr int kOverflow = 6;
-inline constexpr int kTypeMismatch = 13;
-inline constexpr int kBadFileName = 52;
-inline constexpr int kFileNotFound = 53;
-inline constexpr int kBadFileMode = 54;
-inline constexpr int kDiskFull = 61;
-inline constexpr int kBadFileNameOrNumber = 64;
-inline constexpr int kPermissionDenied = 70;
-inline constexpr int kPathNotFound = 76;
-inline constexpr int kPathFileAccess = 75;
-}  // namespace err
-
-AppError makeError(int number);  // the standard description for the numbers above
+// The error numbers (err::k...) and their texts are in the shared table.
+// An error with the standard text of its number ("Application-defined or object-defined error"
+// for a number the table does not know).
+AppError makeError(int number);
 
 }  // namespace lathwick

@@ -2,40 +2,17 @@
 
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "platform/number_text.h"
 
 namespace lathwick {
 
 double toDouble(std::string_view text) {
-  const std::string t = trimBlanks(text);
-  if (t.size() > 2 && t[0] == '&' && (t[1] == 'H' || t[1] == 'h' || t[1] == 'O' || t[1] == 'o')) {
-    const int base = (t[1] == 'H' || t[1] == 'h') ? 16 : 8;
-    char* end = nullptr;
-    const long v = std::strtol(t.c_str() + 2, &end, base);
-    if (*end != '\0') throw makeError(err::kTypeMismatch);
-    return static_cast<double>(v);
-  }
-  // Only plain decimal syntax: strtod alone would also take "inf", "nan" and hex floats.
-  size_t i = 0;
-  if (i < t.size() && (t[i] == '+' || t[i] == '-')) ++i;
-  bool digits = false;
-  while (i < t.size() && t[i] >= '0' && t[i] <= '9') ++i, digits = true;
-  if (i < t.size() && t[i] == '.') {
-    ++i;
-    while (i < t.size() && t[i] >= '0' && t[i] <= '9') ++i, digits = true;
-  }
-  if (digits && i < t.size() && (t[i] == 'e' || t[i] == 'E')) {
-    size_t j = i + 1;
-    if (j < t.size() && (t[j] == '+' || t[j] == '-')) ++j;
-    const size_t expStart = j;
-    while (j < t.size() && t[j] >= '0' && t[j] <= '9') ++j;
-    if (j > expStart) i = j;
-  }
-  if (!digits || i != t.size()) throw makeError(err::kTypeMismatch);
-  return std::strtod(t.c_str(), nullptr);
+  const auto v = parseNumberText(text);
+  if (!v) throw makeError(err::kTypeMismatch);
+  return *v;
 }
 
 namespace {

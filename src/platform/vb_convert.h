@@ -6,7 +6,7 @@
 
 namespace lathwick {
 
-// CInt: a number (optionally signed, decimal point, exponent, or &H/&O prefix) rounded half to
+// CInt: number text as parseNumberText() reads it (platform/number_text.h), rounded half to
 // even; throws AppError 13 for text that is not a number and 6 outside -32768..32767.
 std::int16_t toInt16(std::string_view text);
 std::int32_t toInt32(std::string_view text);

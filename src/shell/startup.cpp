@@ -5,8 +5,8 @@
 #include "platform/file_system.h"
 #include "platform/install_layout.h"
 #include "platform/vb_convert.h"
-#include "shell/app_folder.h"
-#include "shell/settings_table.h"
+#include "platform/app_folder.h"
+#include "platform/settings_table.h"
 
 namespace lathwick {
 

@@ -5,12 +5,11 @@
 #include <cstdint>
 #include <string>
 
-#include "shell/settings_store.h"
+#include "platform/app_names.h"
+#include "platform/settings_store.h"
 
 namespace lathwick {
 
-inline constexpr const char* kAppTitle = "Lathwick";
-inline constexpr const char* kDataFileName = "Lathwick.dat";
 inline constexpr const char* kMissingDataFileMessage = "Unable to find dat file. Please re-install.";
 inline constexpr const char* kStartupErrorCaption = "Load Error";
 

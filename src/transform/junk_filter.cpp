@@ -70,7 +70,7 @@ PassResult runJunkFilter(const std::string& inPath, const std::string& outPath, 
       filter.feed(std::string_view(block.data(), n), filtered);
       out.append(filtered);
     }
-    if (std::ferror(in)) throw makeError(err::kPathFileAccess);
+    if (std::ferror(in)) throw makeError(err::kPathFileAccessError);
     filtered.clear();
     filter.finish(filtered);
     out.append(filtered);

@@ -29,15 +29,27 @@ void expectUsage(const CliResult& r, const std::string& option, const std::strin
 
 TEST(TransformCliRefusals, BareLineFeedsRefuseSearchHighlightAndOperateOnly) {
   TempDir dir;
-  const auto in = dir.write("lf.nc", "G01 X1\nG00 X2\n");
+  // A lone CR and a bare LF: not Linux text (that has no CR at all), so the checks judge it.
+  const auto in = dir.write("serial.nc", "G01 X1\rG00 X2\n");
   const auto out = dir.file("out");
   expectRefused(runCli({"replace", "--find", "X", "--replace", "Y", in, out}), kJunk, out);
   expectRefused(runCli({"highlight", "--find", "X", in, out}), kJunk, out);
   expectRefused(runCli({"operate", "--address", "X", "--operator", "*", "--value", "2", "--format", "0", in, out}),
                 kJunk, out);
-  // The plain passes read such a file as one line and go on.
+  // The plain passes take the bare LF as a character of its line and go on.
   EXPECT_EQ(runCli({"remove-spaces", in, out}).exitCode, 0);
-  EXPECT_EQ(dir.read("out"), "G01X1\nG00X2\n\r\n");
+  EXPECT_EQ(dir.read("out"), "G01X1\r\nG00X2\n\r\n");
+}
+
+TEST(TransformCliRefusals, LinuxLineEndsAreLinesForEveryPass) {
+  TempDir dir;
+  const auto in = dir.write("lf.nc", "G01 X1\nG00 X2\n");
+  const auto out = dir.file("out");
+  const CliResult r = runCli({"operate", "--address", "X", "--operator", "*", "--value", "2", "--format", "0", in, out});
+  EXPECT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(r.out, "2 Operations made.\n");
+  EXPECT_EQ(runCli({"remove-spaces", in, out}).exitCode, 0);
+  EXPECT_EQ(dir.read("out"), "G01X1\nG00X2\n");
 }
 
 TEST(TransformCliRefusals, OperateValidationRefusesAndBadOptionsAreUsageErrors) {

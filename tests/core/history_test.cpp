@@ -1,7 +1,7 @@
 // Most-recently-used lists: combo histories (exact) and the recent-file list (case-blind).
 #include <gtest/gtest.h>
 
-#include "shell/history.h"
+#include "workspace/history.h"
 #include "support/temp_dir.h"
 
 using lathwick::SettingsStore;

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "shell/menu_tables.h"
+#include "workspace/menu_tables.h"
 
 using namespace lathwick;
 

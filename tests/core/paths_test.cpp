@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "document/paths.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "support/temp_dir.h"
 
 using namespace lathwick;
@@ -34,8 +34,20 @@ TEST(Paths, ChangeExtensionOverwritesOnlyAThreeLetterExtension) {
 TEST(Paths, ShortenPathSearchesFromLengthMinusMaximumPlusSix) {
   EXPECT_EQ(ShortenPath("C:\\CNC\\Programs\\Customer\\Job42\\part.nc", 25), "C:\\ ...\\Job42\\part.nc");
   EXPECT_EQ(ShortenPath("/short.nc", 25), "/short.nc");
-  EXPECT_EQ(ShortenPath(std::string(40, 'x'), 25), "xxx ...");  // no separator in range
-  EXPECT_EQ(ShortenPath("/home/machinist/programs/bracket/op1.nc", 25), "/ho .../bracket/op1.nc");
+  EXPECT_EQ(ShortenPath("/home/machinist/programs/bracket/op1.nc", 25), "/home .../bracket/op1.nc");
+  EXPECT_EQ(ShortenPath("jobs/customer/2024/march/op1.nc", 25), "jobs .../2024/march/op1.nc");
+}
+
+TEST(Paths, ShortenPathAlwaysKeepsTheFileName) {
+  // A long name leaves no separator in the search range: the name is kept with its separator,
+  // so two long names in one folder never shorten to the same caption.
+  EXPECT_EQ(ShortenPath("/tmp/lathwick/bracket_roughing_op1.nc", 25), "/tmp .../bracket_roughing_op1.nc");
+  EXPECT_EQ(ShortenPath("/tmp/lathwick/bracket_finishing_op2.nc", 25), "/tmp .../bracket_finishing_op2.nc");
+  EXPECT_EQ(ShortenPath("C:\\Jobs\\a_very_long_program_name_of_a_part.nc", 25),
+            "C:\\ ...\\a_very_long_program_name_of_a_part.nc");
+  // Nothing to leave out between the root and the name, or no folder at all: kept whole.
+  EXPECT_EQ(ShortenPath("/tmp/a_very_long_program_name_of_a_part.nc", 25), "/tmp/a_very_long_program_name_of_a_part.nc");
+  EXPECT_EQ(ShortenPath(std::string(40, 'x'), 25), std::string(40, 'x'));
 }
 
 TEST(AppFolder, FileExistsOnlyForNormalFiles) {

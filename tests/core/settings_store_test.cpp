@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "shell/settings_store.h"
-#include "shell/settings_table.h"
+#include "platform/settings_store.h"
+#include "platform/settings_table.h"
 #include "support/temp_dir.h"
 
 using lathwick::SettingsStore;

@@ -7,7 +7,7 @@
 
 #include "platform/file_system.h"
 #include "platform/install_layout.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "shell/startup.h"
 #include "support/temp_dir.h"
 

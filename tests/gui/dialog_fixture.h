@@ -15,7 +15,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/file_system.h"
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 #include "transform/find_next.h"

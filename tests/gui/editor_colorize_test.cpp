@@ -1,5 +1,4 @@
-// View Modes, View Codes and Reload through the menus, with undo, the junk-filter refusal and
-// Esc cancelling a long run.
+// View Modes, View Codes and Reload through the menus, with undo and Esc cancelling a long run.
 #include <algorithm>
 #include <filesystem>
 
@@ -7,7 +6,7 @@
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
 #include "frame_fixture.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 #include "shell/gui/status_panels.h"
 #include "shell/gui/mdi_form.h"
 
@@ -78,16 +77,6 @@ TEST_F(ColorizeTest, ToolbarCodesAndReloadAreAvailableWithADocument) {
   trigger("mnuModal", 2);  // Reload: the text as it is, formats dropped
   EXPECT_EQ(e->rtfTextBox().text(), "G00 X1 Y2 Z3");
   EXPECT_EQ(e->richTextBox().stylesOf(4, 5), e->richTextBox().stylesOf(7, 8));
-}
-
-TEST_F(ColorizeTest, BareLineFeedsAreSentToTheJunkFilter) {
-  start();
-  gui::frmEditor* e = openFile(files.write("lf.nc", "G00 X1\nG01 Y2\n"));
-  trigger("mnuModal", 0);
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, kJunkFilterMessage);
-  EXPECT_FALSE(e->FileUndoable());
-  EXPECT_FALSE(e->record().changed);
 }
 
 TEST_F(ColorizeTest, EscOrAClickOnTheMessagePanelCancelsALongRunAndLeavesTheDocument) {

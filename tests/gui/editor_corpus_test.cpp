@@ -1,9 +1,10 @@
 // Every program of the shared corpus through the window: opened, coloured by modes (after the
-// junk filter when its line ends need it), saved as rich text and opened again with the same
-// characters.
+// junk filter when its line ends need it: mixed line ends, not Linux text), saved as rich text
+// and opened again with the same characters.
 #include <filesystem>
 
 #include "document/document_table.h"
+#include "document/line_convention.h"
 #include "document/line_ending_checks.h"
 #include "frame_fixture.h"
 #include "support/cli_runner.h"
@@ -28,8 +29,9 @@ TEST_F(FrameTest, CorpusProgramsColourSaveAsRichTextAndReopen) {
     dialogs.messages.clear();
     trigger("mnuModal", 0);
     if (!dialogs.messages.empty()) {
-      // Bare line feeds: the only refusal, and the junk filter is the cure.
+      // Bare line feeds among CR LFs: the only refusal, and the junk filter is the cure.
       ASSERT_EQ(dialogs.messages[0].text, kJunkFilterMessage) << name;
+      ASSERT_NE(lineEndsOfFile(entry.path().string()), LineEnds::Lf) << name << ": Linux text refused";
       dialogs.messages.clear();
       trigger("mnuJunkFilter");
       trigger("mnuModal", 0);

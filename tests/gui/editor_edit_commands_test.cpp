@@ -2,7 +2,7 @@
 #include <QClipboard>
 
 #include "frame_fixture.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;

@@ -3,7 +3,7 @@
 
 #include "format/scheme_data_file.h"
 #include "frame_fixture.h"
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;

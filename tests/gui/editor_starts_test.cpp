@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "support/cli_runner.h"
 #include "support/temp_dir.h"
 

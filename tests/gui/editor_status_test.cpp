@@ -5,7 +5,7 @@
 
 #include "document/document_table.h"
 #include "frame_fixture.h"
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 #include "shell/gui/status_panels.h"
 
 using namespace lathwick;

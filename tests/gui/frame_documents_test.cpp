@@ -5,7 +5,7 @@
 #include "document/paths.h"
 #include "platform/bytes.h"
 #include "frame_fixture.h"
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 #include "support/temp_dir.h"
 
 using namespace lathwick;

@@ -15,7 +15,7 @@
 
 #include "document/gui/frm_editor.h"
 #include "shell/gui/mdi_form.h"
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "shell/startup.h"
 #include "scripted_dialogs.h"
 #include "support/temp_dir.h"

@@ -7,7 +7,7 @@
 
 #include "frame_fixture.h"
 #include "platform/gui/help_key.h"
-#include "shell/menu_tables.h"
+#include "workspace/menu_tables.h"
 #include "shell/gui/frame_look.h"
 #include "transform/gui/frm_renumber.h"
 

@@ -6,7 +6,7 @@
 #include <QToolButton>
 
 #include "frame_fixture.h"
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <memory>
 
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick::test {
 

@@ -4,10 +4,10 @@
 
 #include "document/case_change.h"
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/frm_editor.h"
 #include "document/gui/rich_text_control.h"
 #include "platform/bytes.h"
-#include "shell/gui/mdi_form.h"
 
 namespace lathwick::gui {
 namespace {
@@ -17,7 +17,7 @@ QClipboard& clipboard() { return *QGuiApplication::clipboard(); }
 void frmEditor::Undo() {
   // From the undo file when the last whole-text change was this window's (its changed flag kept
   // as it was), otherwise the control's own last edit.
-  UndoDocument(rich_->box(), undoable_, record().changed, defaultTextStyle(), frame_.values().UndoFile);
+  UndoDocument(rich_->box(), undoable_, record().changed, defaultTextStyle(), frame_.editorFiles().undo);
   ShowLineNum();
   En_Dis_able();
 }

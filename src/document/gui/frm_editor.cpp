@@ -9,18 +9,35 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/rich_text_control.h"
 #include "document/selection_length.h"
+#include "platform/bytes.h"
 #include "format/scheme_data_file.h"
-#include "shell/gui/mdi_form.h"
-#include "shell/gui/menu_set.h"
-#include "shell/gui/status_panels.h"
+#include "format/scheme_record.h"
+#include "workspace/command_dispatch.h"
+#include "workspace/gui/menu_set.h"
 
 namespace lathwick::gui {
 
-frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
+namespace {
+// A window opens wholly inside the frame's working area: the cascade of earlier windows may
+// have pushed it past the right or lower edge.
+void keepInside(QMdiSubWindow& sub, const QSize& room) {
+  if (sub.isMaximized() || sub.isMinimized() || room.isEmpty()) return;
+  QRect r = sub.geometry();
+  r.setSize(r.size().boundedTo(room));
+  if (r.right() >= room.width()) r.moveRight(room.width() - 1);
+  if (r.bottom() >= room.height()) r.moveBottom(room.height() - 1);
+  r.moveTopLeft(QPoint(std::max(0, r.left()), std::max(0, r.top())));
+  if (r != sub.geometry()) sub.setGeometry(r);
+}
+}  // namespace
+
+frmEditor::frmEditor(EditorHost& frame, int tag) : frame_(frame), tag_(tag), undoable_(frame.undoGroup()) {
   setAttribute(Qt::WA_DeleteOnClose, false);  // the sub-window owns and deletes this window
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -40,7 +57,7 @@ frmEditor::frmEditor(MDIForm1& frame, int tag) : frame_(frame), tag_(tag), undoa
   connect(text_, &TextControl::selectionChanged, this, &frmEditor::onSelectionChanged);
 }
 
-frmEditor::~frmEditor() { frame_.forgetTarget(this); }
+frmEditor::~frmEditor() { frame_.forgetEditor(*this); }
 
 RichTextBox& frmEditor::richTextBox() const { return rich_->box(); }
 
@@ -54,7 +71,10 @@ void frmEditor::prepare() {
   show();
   if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
     sub->show();
-    if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
+    if (QMdiArea* area = sub->mdiArea()) {
+      area->setActiveSubWindow(sub);
+      keepInside(*sub, area->viewport()->size());
+    }
   }
   text_->widget()->setFocus();
 }
@@ -75,6 +95,7 @@ DefaultTextStyle frmEditor::defaultTextStyle() const {
     style.bold = text.bold;
     style.italic = text.italic;
     style.underline = text.underline;
+    style.fixedPitch = trimBlanks(text.family) == "fmodern";
     style.indentTwips = scheme->indentSteps() * 200;
   }
   return style;
@@ -83,13 +104,13 @@ DefaultTextStyle frmEditor::defaultTextStyle() const {
 bool frmEditor::reloadDocument(const std::string& path, TextKind kind) {
   const bool done = ::lathwick::ReloadDocument(rich_->box(), path,
                                                kind == TextKind::Rich ? FileKind::RichText : FileKind::PlainText,
-                                               defaultTextStyle(), frame_.values().UndoFile);
+                                               defaultTextStyle(), frame_.editorFiles().undo);
   ShowLineNum();
   return done;
 }
 
 void frmEditor::ShowLineNum() {
-  frame_.statusPanels().setText("Range", "Line " + std::to_string(currentLine() + 1) + " of " +
+  frame_.setPanelText("Range", "Line " + std::to_string(currentLine() + 1) + " of " +
                                              std::to_string(LineCount()) + " ");
 }
 
@@ -100,7 +121,7 @@ void frmEditor::En_Dis_able() {
   for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
     menus_->setEnabled(name, selection);
   menus_->setEnabled("mnuUndo", undoable_.get() || text_->canUndo());
-  frame_.En_Dis_able();
+  frame_.refreshCommandStates();
 }
 
 void frmEditor::Form_Activate() {
@@ -108,7 +129,7 @@ void frmEditor::Form_Activate() {
   frame_.setCurrentScheme(record().scheme);
   if (const SchemeRecord* scheme = frame_.currentSchemeRecord())
     text_->setColours(scheme->backColour, scheme->style(0, kOtherTextStyle).colour);
-  frame_.statusPanels().setOverwrite(text_->overwriteMode());
+  frame_.setOverwrite(text_->overwriteMode());
   En_Dis_able();
 }
 
@@ -124,17 +145,15 @@ void frmEditor::onSelectionChanged() {
   if (frame_.activeEditor() == this) En_Dis_able();
 }
 
-void frmEditor::Save() {
-  if (saveNeedsName(record().fileName))
-    frame_.saveAsPlain(*this);
-  else
-    frame_.SaveFile(*this, record().fileName);
+bool frmEditor::Save() {
+  if (saveNeedsName(record().fileName)) return frame_.saveAsPlain(*this);
+  return frame_.saveFile(*this, record().fileName);
 }
 
 void frmEditor::LoadMenuArray() {
   SchemeList list;
   try {
-    list = loadSchemeList(frame_.values().DataFilePath, record().scheme);
+    list = loadSchemeList(frame_.editorFiles().dataFile, record().scheme);
   } catch (const AppError&) {
     list.dataFileProblem = true;
   }
@@ -202,17 +221,33 @@ bool frmEditor::handleAltKey(int key) {
   }
 }
 
+void frmEditor::changeEvent(QEvent* event) {
+  // The caption may be a shortened path: the window's title bar tells the whole path on hover.
+  auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget());
+  if (event->type() == QEvent::WindowTitleChange && sub && frame_.documents().valid(tag_))
+    sub->setToolTip(QString::fromLocal8Bit(filename().c_str()));
+  QWidget::changeEvent(event);
+}
+
 bool frmEditor::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::ToolTip:
+      return true;  // the text itself has none: the window's path tooltip is for its title bar
     case QEvent::KeyPress: {
       auto* key = static_cast<QKeyEvent*>(event);
       const auto mods = key->modifiers() & ~Qt::KeypadModifier;
       if (mods == Qt::AltModifier && handleAltKey(key->key())) return true;
+      // Ctrl+Z is Edit > Undo: while the window holds the undo file it brings back the text
+      // from before the last transformation; otherwise the control undoes its own last edit.
+      if (mods == Qt::ControlModifier && key->key() == Qt::Key_Z && FileUndoable()) {
+        Undo();
+        return true;
+      }
       break;
     }
     case QEvent::KeyRelease:
       ShowLineNum();
-      frame_.statusPanels().setOverwrite(text_->overwriteMode());
+      frame_.setOverwrite(text_->overwriteMode());
       break;
     case QEvent::MouseButtonRelease:
       ShowLineNum();

@@ -10,6 +10,7 @@
 #include "document/gui/text_control.h"
 #include "transform/gui/transform_target.h"
 #include "transform/pass_result.h"
+#include "workspace/workspace.h"
 
 namespace lathwick {
 struct DocumentRecord;
@@ -18,14 +19,14 @@ class RichTextBox;
 
 namespace lathwick::gui {
 
-class MDIForm1;
+class EditorHost;
 class MenuSet;
 class RichTextControl;
 
-class frmEditor : public QWidget, public TransformTarget {
+class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocument {
   Q_OBJECT
  public:
-  frmEditor(MDIForm1& frame, int tag);
+  frmEditor(EditorHost& frame, int tag);
   ~frmEditor() override;
 
   int tag() const { return tag_; }
@@ -53,7 +54,7 @@ class frmEditor : public QWidget, public TransformTarget {
   void ShowLineNum();
   void En_Dis_able();
   void Form_Activate();
-  void Save();
+  bool Save();  // false when nothing was saved
 
   // Colours the document by modes (0) or codes (1), or reloads it as it is (2), through the work
   // files and reloadDocument.
@@ -67,7 +68,7 @@ class frmEditor : public QWidget, public TransformTarget {
   // The caption of the scheme menu entry of the current scheme ("" when there is none).
   std::string Scheme() const;
   // Chooses the scheme menu entry captioned `name` (nothing happens for an unknown name).
-  void setScheme(const std::string& name);
+  void setScheme(const std::string& name) override;
 
   // Editing commands (the Edit menu and the toolbar)
   void Undo();
@@ -106,8 +107,20 @@ class frmEditor : public QWidget, public TransformTarget {
   long find(std::string_view text, long start, long end, int flags) override;
   void replaceSelection(std::string_view text) override;
 
+  // What commands and scripts see of the document (the rest is shared with the dialogs' view).
+  std::string text() const override;
+  void setSelection(long start, long length) override;
+  long lineIndex(long line) const override;
+  long lineLength(long line) const override;
+  std::string fileName() const override { return filename(); }
+  bool save() override { return Save(); }
+  std::string scheme() const override { return Scheme(); }
+  void colorize(ColorizeRun run) override { Colorize(static_cast<int>(run)); }
+  void runPass(DocumentPassKind pass) override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -116,7 +129,7 @@ class frmEditor : public QWidget, public TransformTarget {
   bool handleAltKey(int key);
   void showPassResult(const transform::PassResult& result);
 
-  MDIForm1& frame_;
+  EditorHost& frame_;
   int tag_;
   RichTextControl* rich_;
   TextControl* text_;

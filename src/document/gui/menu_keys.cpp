@@ -6,7 +6,7 @@
 
 #include <QKeySequence>
 
-#include "shell/menu_tables.h"
+#include "workspace/menu_tables.h"
 
 namespace lathwick::gui {
 

@@ -17,9 +17,19 @@ void applyDefaultStyle(RichTextBox& box, const DefaultTextStyle& style) {
   format.bold = style.bold;
   format.italic = style.italic;
   format.underline = style.underline;
+  format.fixedPitch = style.fixedPitch;
   box.setDefaultFormat(format, style.indentTwips);
   const std::uint32_t back = style.backColour;
   box.setBackColor(QColor(back & 0xFF, (back >> 8) & 0xFF, (back >> 16) & 0xFF));
+}
+
+// The line break the document ends with ("" when none): a pass's rich output ends without one,
+// and viewing must not take it away.
+std::string lineBreakAtEnd(const RichTextBox& box) {
+  const std::string_view text = box.characterView();
+  if (text.size() >= 2 && text.substr(text.size() - 2) == "\r\n") return "\r\n";
+  if (!text.empty() && (text.back() == '\r' || text.back() == '\n')) return std::string(1, text.back());
+  return {};
 }
 
 }  // namespace
@@ -28,13 +38,15 @@ bool ReloadDocument(RichTextBox& box, const std::string& path, FileKind kind, co
                     const std::string& undoFilePath) {
   bool ok = true;
   const QPoint caret = box.caretPixelPosition();
-  if (nativePath(path) != nativePath(undoFilePath)) {
+  const bool isUndoFile = nativePath(path) == nativePath(undoFilePath);
+  if (!isUndoFile) {
     try {
       box.saveFile(undoFilePath, FileKind::RichText, Durability::Scratch);
     } catch (...) {
       ok = false;
     }
   }
+  const std::string finalBreak = isUndoFile ? std::string() : lineBreakAtEnd(box);
   const int firstVisible = box.firstVisibleLine();
   const long restoreAt = caret.y() < 0 ? box.lineIndex(firstVisible) : box.selStart();
 
@@ -43,7 +55,7 @@ bool ReloadDocument(RichTextBox& box, const std::string& path, FileKind kind, co
   box.setUpdatesEnabled(false);
   try {
     applyDefaultStyle(box, style);
-    box.loadFile(path, kind);
+    box.loadFile(path, kind, finalBreak);
   } catch (...) {
     ok = false;
   }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick {
 
@@ -19,6 +19,7 @@ struct DefaultTextStyle {
   bool bold = false;
   bool italic = false;
   bool underline = false;
+  bool fixedPitch = true;  // the scheme's family keyword is "fmodern"
   int indentTwips = 0;
 };
 

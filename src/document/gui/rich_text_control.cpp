@@ -4,7 +4,7 @@
 #include <QTimer>
 
 #include "document/gui/menu_keys.h"
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 namespace lathwick::gui {
 namespace {

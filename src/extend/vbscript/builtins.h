@@ -15,11 +15,11 @@ using Args = ArgList;
 inline bool given(const Args& a, size_t i) { return a.size() > i; }
 // Integer argument rounded half to even; Null -> 94.
 inline std::int32_t intArg(Runtime& rt, const Variant& v) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   return toLong(rt, v);
 }
 inline std::string strArg(Runtime& rt, const Variant& v) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   return toStr(rt, v);
 }
 // The text of a value without copying it when it already is a String (`hold` keeps a

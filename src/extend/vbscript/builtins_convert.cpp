@@ -9,7 +9,7 @@ namespace lathwick::vbs::builtin {
 namespace {
 // Shared rules of the C* functions: "" and other text that is no number -> 13, Null -> 94.
 const Variant& convertible(Runtime& rt, const Variant& v, Variant& hold) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   if (v.isObject()) {
     hold = valueOf(rt, v);
     return convertible(rt, hold, hold);
@@ -80,7 +80,7 @@ Variant fnIsNumeric(Runtime& rt, Args& a) {
     }
   }
   switch (v.type()) {
-    case VT::String: return Variant::boolean(parseNumber(v.strValue()).has_value());
+    case VT::String: return Variant::boolean(parseNumberText(v.strValue()).has_value());
     case VT::Null:
     case VT::Array:
     case VT::Date:
@@ -127,7 +127,7 @@ Variant bound(Runtime& rt, Args& a, bool upper) {
   if (!a[0].isArray()) raise(rt::kTypeMismatch);
   const ArrayData& arr = *a[0].arrValue();
   const std::int32_t dim = given(a, 1) ? intArg(rt, a[1]) : 1;
-  if (!arr.allocated() || dim < 1 || static_cast<size_t>(dim) > arr.upper.size()) raise(rt::kSubscript);
+  if (!arr.allocated() || dim < 1 || static_cast<size_t>(dim) > arr.upper.size()) raise(rt::kSubscriptOutOfRange);
   return Variant::longv(upper ? arr.upper[static_cast<size_t>(dim - 1)] : 0);
 }
 Variant fnLBound(Runtime& rt, Args& a) { return bound(rt, a, false); }

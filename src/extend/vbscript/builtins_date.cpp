@@ -11,7 +11,7 @@ namespace lathwick::vbs::builtin {
 
 namespace {
 double dateArg(Runtime& rt, const Variant& v) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   return toDate(rt, v);
 }
 
@@ -39,7 +39,7 @@ Variant part(Runtime& rt, Args& a) {
 int firstDayArg(Runtime& rt, const Args& a, size_t i) {
   if (!given(a, i)) return 1;
   const std::int32_t d = intArg(rt, a[i]);
-  if (d < 0 || d > 7) raise(rt::kInvalidCall);
+  if (d < 0 || d > 7) raise(rt::kInvalidProcedureCall);
   return d == 0 ? 1 : d;
 }
 
@@ -52,7 +52,7 @@ Variant fnWeekday(Runtime& rt, Args& a) {
 
 Variant fnWeekdayName(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
-  if (n < 1 || n > 7) raise(rt::kInvalidCall);
+  if (n < 1 || n > 7) raise(rt::kInvalidProcedureCall);
   const bool abbrev = given(a, 1) && toBool(rt, a[1]);
   const int first = firstDayArg(rt, a, 2);
   std::string name = kDayNames[(n - 1 + first - 1) % 7];
@@ -61,7 +61,7 @@ Variant fnWeekdayName(Runtime& rt, Args& a) {
 
 Variant fnMonthName(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
-  if (n < 1 || n > 12) raise(rt::kInvalidCall);
+  if (n < 1 || n > 12) raise(rt::kInvalidProcedureCall);
   const bool abbrev = given(a, 1) && toBool(rt, a[1]);
   std::string name = kMonthNames[n - 1];
   return Variant::str(abbrev ? name.substr(0, 3) : name);
@@ -100,7 +100,7 @@ Interval intervalArg(Runtime& rt, const Variant& v) {
   };
   for (const auto& [name, iv] : kIntervals)
     if (s == name) return iv;
-  raise(rt::kInvalidCall);
+  raise(rt::kInvalidProcedureCall);
 }
 
 double addMonths(double serial, long long months) {
@@ -131,7 +131,7 @@ Variant fnDateAdd(Runtime& rt, Args& a) {
     case Interval::Minute: r = d + n / 1440.0; break;
     case Interval::Second: r = d + n / 86400.0; break;
   }
-  if (r < -657434.0 || r >= 2958466.0) raise(rt::kInvalidCall);
+  if (r < -657434.0 || r >= 2958466.0) raise(rt::kInvalidProcedureCall);
   return Variant::date(r);
 }
 
@@ -206,7 +206,7 @@ Variant fnFormatDateTime(Runtime& rt, Args& a) {
     case 2: return Variant::str(formatShortDate(d));
     case 3: return Variant::str(formatLongTime(d));
     case 4: return Variant::str(formatShortTime(d));
-    default: raise(rt::kInvalidCall);
+    default: raise(rt::kInvalidProcedureCall);
   }
 }
 

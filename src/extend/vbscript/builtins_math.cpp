@@ -25,7 +25,7 @@ Variant fnAbs(Runtime& rt, Args& a) {
 }
 
 Variant fnSgn(Runtime& rt, Args& a) {
-  if (a[0].isNull()) raise(rt::kInvalidNull);
+  if (a[0].isNull()) raise(rt::kInvalidUseOfNull);
   const double d = toDouble(rt, a[0]);
   return Variant::integer(d > 0 ? 1 : (d < 0 ? -1 : 0));
 }
@@ -44,7 +44,7 @@ Variant fnFix(Runtime& rt, Args& a) { return rounding(rt, a[0], [](double d) { r
 Variant fnRound(Runtime& rt, Args& a) {
   if (a[0].isNull()) return Variant::null();
   const std::int32_t digits = given(a, 1) ? intArg(rt, a[1]) : 0;
-  if (digits < 0) raise(rt::kInvalidCall);
+  if (digits < 0) raise(rt::kInvalidProcedureCall);
   const Variant n = number(rt, a[0]);
   if (n.isIntegral()) return n;
   const double scale = std::pow(10.0, digits);
@@ -55,7 +55,7 @@ Variant fnRound(Runtime& rt, Args& a) {
 }
 
 Variant checked(double d) {
-  if (std::isnan(d)) raise(rt::kInvalidCall);
+  if (std::isnan(d)) raise(rt::kInvalidProcedureCall);
   if (!std::isfinite(d)) raise(rt::kOverflow);
   return Variant::dbl(d);
 }
@@ -63,13 +63,13 @@ Variant checked(double d) {
 Variant fnSqr(Runtime& rt, Args& a) {
   if (a[0].isNull()) return Variant::null();
   const double d = toDouble(rt, a[0]);
-  if (d < 0) raise(rt::kInvalidCall);
+  if (d < 0) raise(rt::kInvalidProcedureCall);
   return Variant::dbl(std::sqrt(d));
 }
 Variant fnLog(Runtime& rt, Args& a) {
   if (a[0].isNull()) return Variant::null();
   const double d = toDouble(rt, a[0]);
-  if (d <= 0) raise(rt::kInvalidCall);
+  if (d <= 0) raise(rt::kInvalidProcedureCall);
   return Variant::dbl(std::log(d));
 }
 Variant unaryMath(Runtime& rt, const Variant& v, double (*fn)(double)) {

@@ -31,7 +31,7 @@ Variant fnRGB(Runtime& rt, Args& a) {
   std::int32_t c[3];
   for (int i = 0; i < 3; ++i) {
     c[i] = intArg(rt, a[static_cast<size_t>(i)]);
-    if (c[i] < 0) raise(rt::kInvalidCall);
+    if (c[i] < 0) raise(rt::kInvalidProcedureCall);
     if (c[i] > 255) c[i] = 255;
   }
   return Variant::longv(c[0] + 256 * c[1] + 65536 * c[2]);
@@ -43,7 +43,7 @@ Variant fnMinor(Runtime&, Args&) { return Variant::longv(8); }
 Variant fnBuild(Runtime&, Args&) { return Variant::longv(1); }
 Variant fnErr(Runtime& rt, Args&) { return Variant::object(rt.errObject); }
 Variant fnCreateObject(Runtime&, Args& a) {
-  raise(rt::kCantCreate, given(a, 0) && a[0].isString() ? a[0].strValue() : std::string());
+  raise(rt::kCantCreateObject, given(a, 0) && a[0].isString() ? a[0].strValue() : std::string());
 }
 Variant fnGetLocale(Runtime&, Args&) { return Variant::longv(1033); }
 // Execute runs in the global scope (like ExecuteGlobal): a procedure's locals are not visible.
@@ -60,7 +60,7 @@ class ProcedureRef : public Object {
   int findMember(std::string_view) const override { return -1; }
   int defaultMember() const override { return 0; }
   Variant invoke(Runtime& rt, int, InvokeKind kind, const ArgRefs& args, bool) override {
-    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kNoAction);
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisAction);
     return rt.callProcedure(*proc_, args, {});
   }
 
@@ -69,7 +69,7 @@ class ProcedureRef : public Object {
 };
 Variant fnGetRef(Runtime& rt, Args& a) {
   const GlobalEntry* e = rt.findEntry(strArg(rt, a[0]));
-  if (!e || e->kind != GlobalEntry::Procedure) raise(rt::kInvalidCall);
+  if (!e || e->kind != GlobalEntry::Procedure) raise(rt::kInvalidProcedureCall);
   return Variant::object(makeObject<ProcedureRef>(e->proc));
 }
 
@@ -79,7 +79,7 @@ std::string formatFixed(Runtime& rt, Args& a, double scale, const char* suffix) 
   const double x = toDouble(rt, a[0]) * scale;
   std::int32_t digits = given(a, 1) ? intArg(rt, a[1]) : 2;
   if (digits == -1) digits = 2;
-  if (digits < 0 || digits > 255) raise(rt::kInvalidCall);
+  if (digits < 0 || digits > 255) raise(rt::kInvalidProcedureCall);
   const auto tristate = [&](size_t i, bool def) {
     if (!given(a, i)) return def;
     const std::int32_t t = intArg(rt, a[i]);

@@ -17,7 +17,7 @@ Variant fnLen(Runtime& rt, Args& a) {
 
 Variant fnLeft(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[1]);
-  if (n < 0) raise(rt::kInvalidCall);
+  if (n < 0) raise(rt::kInvalidProcedureCall);
   if (a[0].isNull()) return Variant::null();
   std::string hold;
   const std::string& s = textOf(rt, a[0], hold);
@@ -26,7 +26,7 @@ Variant fnLeft(Runtime& rt, Args& a) {
 
 Variant fnRight(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[1]);
-  if (n < 0) raise(rt::kInvalidCall);
+  if (n < 0) raise(rt::kInvalidProcedureCall);
   if (a[0].isNull()) return Variant::null();
   std::string hold;
   const std::string& s = textOf(rt, a[0], hold);
@@ -36,11 +36,11 @@ Variant fnRight(Runtime& rt, Args& a) {
 
 Variant fnMid(Runtime& rt, Args& a) {
   const std::int32_t start = intArg(rt, a[1]);
-  if (start < 1) raise(rt::kInvalidCall);
+  if (start < 1) raise(rt::kInvalidProcedureCall);
   std::int32_t len = -1;
   if (given(a, 2)) {
     len = intArg(rt, a[2]);
-    if (len < 0) raise(rt::kInvalidCall);
+    if (len < 0) raise(rt::kInvalidProcedureCall);
   }
   if (a[0].isNull()) return Variant::null();
   std::string hold;
@@ -59,10 +59,10 @@ Variant fnInStr(Runtime& rt, Args& a) {
   std::int32_t start = 1;
   if (a.size() >= 3) {
     start = intArg(rt, a[0]);
-    if (start < 1) raise(rt::kInvalidCall);
+    if (start < 1) raise(rt::kInvalidProcedureCall);
     i = 1;
   } else if (a.size() < 2) {
-    raise(rt::kWrongArgs);
+    raise(rt::kWrongNumberOfArguments);
   }
   const bool text = a.size() == 4 ? textCompare(rt, a, 3) : false;
   if (a[i].isNull() || a[i + 1].isNull()) return Variant::null();
@@ -77,13 +77,13 @@ Variant fnInStr(Runtime& rt, Args& a) {
 
 Variant fnInStrRev(Runtime& rt, Args& a) {
   for (const auto& v : a)
-    if (v.isNull()) raise(rt::kInvalidNull);
+    if (v.isNull()) raise(rt::kInvalidUseOfNull);
   std::string hold1, hold2;
   const std::string& s1 = textOf(rt, a[0], hold1);
   const std::string& s2 = textOf(rt, a[1], hold2);
   std::int32_t start = given(a, 2) ? intArg(rt, a[2]) : -1;
   const bool text = textCompare(rt, a, 3);
-  if (start == 0 || start < -1) raise(rt::kInvalidCall);
+  if (start == 0 || start < -1) raise(rt::kInvalidProcedureCall);
   if (start == -1) start = static_cast<std::int32_t>(s1.size());
   if (static_cast<size_t>(start) > s1.size()) return Variant::longv(0);
   if (s2.empty()) return Variant::longv(start);
@@ -115,24 +115,22 @@ Variant fnTrim(Runtime& rt, Args& a) {
   return Variant::str(trimBlanks(toStr(rt, a[0])));
 }
 
-// Longest string Space and String make.
-constexpr std::int32_t kMaxMadeString = 1 << 28;
 
 Variant fnSpace(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
-  if (n < 0) raise(rt::kInvalidCall);
-  if (n > kMaxMadeString) raise(14);
+  if (n < 0) raise(rt::kInvalidProcedureCall);
+  rt.noteStringGrowth(static_cast<size_t>(n), static_cast<size_t>(n));
   return Variant::str(std::string(static_cast<size_t>(n), ' '));
 }
 
 Variant fnString(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
-  if (n < 0) raise(rt::kInvalidCall);
-  if (n > kMaxMadeString) raise(14);
+  if (n < 0) raise(rt::kInvalidProcedureCall);
+  rt.noteStringGrowth(static_cast<size_t>(n), static_cast<size_t>(n));
   if (a[1].isNull()) return Variant::null();
   char c;
   if (a[1].isString()) {
-    if (a[1].strValue().empty()) raise(rt::kInvalidCall);
+    if (a[1].strValue().empty()) raise(rt::kInvalidProcedureCall);
     c = a[1].strValue()[0];
   } else {
     const std::int32_t code = toLong(rt, a[1]);
@@ -158,12 +156,12 @@ Variant fnStrComp(Runtime& rt, Args& a) {
 
 Variant fnReplace(Runtime& rt, Args& a) {
   for (const auto& v : a)
-    if (v.isNull()) raise(rt::kInvalidNull);
+    if (v.isNull()) raise(rt::kInvalidUseOfNull);
   const std::string s = toStr(rt, a[0]), find = toStr(rt, a[1]), repl = toStr(rt, a[2]);
   const std::int32_t start = given(a, 3) ? intArg(rt, a[3]) : 1;
   const std::int32_t count = given(a, 4) ? intArg(rt, a[4]) : -1;
   const bool text = textCompare(rt, a, 5);
-  if (start < 1 || count < -1) raise(rt::kInvalidCall);
+  if (start < 1 || count < -1) raise(rt::kInvalidProcedureCall);
   if (static_cast<size_t>(start) > s.size()) return Variant::str("");
   const std::string src = s.substr(static_cast<size_t>(start - 1));
   if (find.empty() || count == 0) return Variant::str(src);
@@ -186,12 +184,12 @@ Variant fnReplace(Runtime& rt, Args& a) {
 
 Variant fnSplit(Runtime& rt, Args& a) {
   for (const auto& v : a)
-    if (v.isNull()) raise(rt::kInvalidNull);
+    if (v.isNull()) raise(rt::kInvalidUseOfNull);
   const std::string s = toStr(rt, a[0]);
   const std::string delim = given(a, 1) ? toStr(rt, a[1]) : " ";
   const std::int32_t count = given(a, 2) ? intArg(rt, a[2]) : -1;
   const bool text = textCompare(rt, a, 3);
-  if (count < -1) raise(rt::kInvalidCall);
+  if (count < -1) raise(rt::kInvalidProcedureCall);
   std::vector<Variant> parts;
   if (s.empty() || count == 0) return Variant::array(ArrayData::ofValues({}));
   if (delim.empty()) return Variant::array(ArrayData::ofValues({Variant::str(s)}));
@@ -209,7 +207,7 @@ Variant fnSplit(Runtime& rt, Args& a) {
 }
 
 Variant fnJoin(Runtime& rt, Args& a) {
-  if (a[0].isNull()) raise(rt::kInvalidNull);
+  if (a[0].isNull()) raise(rt::kInvalidUseOfNull);
   if (!a[0].isArray()) raise(rt::kTypeMismatch);
   const ArrayData& arr = *a[0].arrValue();
   if (arr.allocated() && arr.upper.size() != 1) raise(rt::kTypeMismatch);
@@ -225,7 +223,7 @@ Variant fnJoin(Runtime& rt, Args& a) {
 }
 
 Variant fnFilter(Runtime& rt, Args& a) {
-  if (a[0].isNull()) raise(rt::kInvalidNull);
+  if (a[0].isNull()) raise(rt::kInvalidUseOfNull);
   if (!a[0].isArray()) raise(rt::kTypeMismatch);
   const std::string value = strArg(rt, a[1]);
   const bool include = given(a, 2) ? toBool(rt, a[2]) : true;
@@ -240,17 +238,17 @@ Variant fnFilter(Runtime& rt, Args& a) {
 }
 
 Variant fnAsc(Runtime& rt, Args& a) {
-  if (a[0].isNull()) raise(rt::kInvalidNull);
+  if (a[0].isNull()) raise(rt::kInvalidUseOfNull);
   std::string hold;
   const std::string& s = textOf(rt, a[0], hold);
-  if (s.empty()) raise(rt::kInvalidCall);
+  if (s.empty()) raise(rt::kInvalidProcedureCall);
   return Variant::integer(static_cast<unsigned char>(s[0]));
 }
 
 // AscW: the code point of a UTF-8 sequence at the start, else the byte.
 Variant fnAscW(Runtime& rt, Args& a) {
   const std::string s = strArg(rt, a[0]);
-  if (s.empty()) raise(rt::kInvalidCall);
+  if (s.empty()) raise(rt::kInvalidProcedureCall);
   const auto b0 = static_cast<unsigned char>(s[0]);
   std::int32_t cp = b0;
   if (b0 >= 0xC0 && b0 < 0xF0) {
@@ -265,14 +263,14 @@ Variant fnAscW(Runtime& rt, Args& a) {
 
 Variant fnChr(Runtime& rt, Args& a) {
   const std::int32_t n = intArg(rt, a[0]);
-  if (n < 0 || n > 255) raise(rt::kInvalidCall);
+  if (n < 0 || n > 255) raise(rt::kInvalidProcedureCall);
   return Variant::str(std::string(1, static_cast<char>(n)));
 }
 
 // ChrW: codes up to 255 are one byte, like Chr; higher codes are written as UTF-8.
 Variant fnChrW(Runtime& rt, Args& a) {
   std::int32_t n = intArg(rt, a[0]);
-  if (n < -32768 || n > 65535) raise(rt::kInvalidCall);
+  if (n < -32768 || n > 65535) raise(rt::kInvalidProcedureCall);
   if (n < 0) n += 65536;
   std::string s;
   if (n < 256) s += static_cast<char>(n);

@@ -10,7 +10,7 @@ namespace builtin {
 bool textCompare(Runtime& rt, const Args& a, size_t i) {
   if (!given(a, i)) return false;
   const std::int32_t mode = intArg(rt, a[i]);
-  if (mode < 0 || mode > 2) raise(rt::kInvalidCall);
+  if (mode < 0 || mode > 2) raise(rt::kInvalidProcedureCall);
   return mode != 0;
 }
 

@@ -9,6 +9,7 @@
 #include "extend/vbscript/errors.h"
 #include "extend/vbscript/runtime.h"
 #include "platform/bytes.h"
+#include "platform/number_text.h"
 
 namespace lathwick::vbs {
 
@@ -50,67 +51,12 @@ std::string numberText(double v, bool single) {
   return neg ? "-" + out : out;
 }
 
-std::optional<double> parseNumber(std::string_view text) {
-  size_t b = 0, e = text.size();
-  while (b < e && (text[b] == ' ' || text[b] == '\t')) ++b;
-  while (e > b && (text[e - 1] == ' ' || text[e - 1] == '\t')) --e;
-  std::string_view t = text.substr(b, e - b);
-  if (t.empty()) return std::nullopt;
-  if (t[0] == '&') {
-    size_t i = 1;
-    int base = 8;
-    if (i < t.size() && (t[i] == 'H' || t[i] == 'h')) base = 16, ++i;
-    else if (i < t.size() && (t[i] == 'O' || t[i] == 'o')) ++i;
-    if (i >= t.size()) return std::nullopt;
-    unsigned long long v = 0;
-    int n = 0;
-    for (; i < t.size(); ++i) {
-      int d;
-      const char c = t[i];
-      if (c >= '0' && c <= '9') d = c - '0';
-      else if (base == 16 && c >= 'a' && c <= 'f') d = c - 'a' + 10;
-      else if (base == 16 && c >= 'A' && c <= 'F') d = c - 'A' + 10;
-      else return std::nullopt;
-      if (d >= base) return std::nullopt;
-      v = v * static_cast<unsigned>(base) + static_cast<unsigned>(d);
-      if (v > 0xFFFFFFFFull) return std::nullopt;
-      ++n;
-    }
-    if (v <= 0xFFFF && (base == 16 ? n <= 4 : v <= 0177777)) return static_cast<double>(static_cast<std::int16_t>(v));
-    return static_cast<double>(static_cast<std::int32_t>(static_cast<std::uint32_t>(v)));
-  }
-  size_t i = 0;
-  if (t[i] == '+' || t[i] == '-') ++i;
-  bool digits = false;
-  while (i < t.size() && t[i] >= '0' && t[i] <= '9') ++i, digits = true;
-  if (i < t.size() && t[i] == '.') {
-    ++i;
-    while (i < t.size() && t[i] >= '0' && t[i] <= '9') ++i, digits = true;
-  }
-  if (!digits) return std::nullopt;
-  if (i < t.size() && (t[i] == 'e' || t[i] == 'E' || t[i] == 'd' || t[i] == 'D')) {
-    size_t j = i + 1;
-    if (j < t.size() && (t[j] == '+' || t[j] == '-')) ++j;
-    const size_t s = j;
-    while (j < t.size() && t[j] >= '0' && t[j] <= '9') ++j;
-    if (j == s) return std::nullopt;
-    i = j;
-  }
-  if (i != t.size()) return std::nullopt;
-  std::string tmp(t);
-  for (char& c : tmp)
-    if (c == 'd' || c == 'D') c = 'E';
-  const double v = std::strtod(tmp.c_str(), nullptr);
-  if (!std::isfinite(v)) return std::nullopt;
-  return v;
-}
-
 Variant valueOf(Runtime& rt, const Variant& v) {
   if (!v.isObject()) return v;
   Object* o = v.objValue().get();
-  if (!o) raise(rt::kObjectNotSet);
+  if (!o) raise(rt::kObjectVariableNotSet);
   const int id = o->defaultMember();
-  if (id < 0) raise(rt::kNoMember);
+  if (id < 0) raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
   Variant r = o->invoke(rt, id, InvokeKind::Get, {}, false);
   if (r.isObject()) return valueOf(rt, r);
   return r;
@@ -119,9 +65,9 @@ Variant valueOf(Runtime& rt, const Variant& v) {
 double toDouble(Runtime& rt, const Variant& v) {
   switch (v.type()) {
     case VT::Empty: return 0;
-    case VT::Null: raise(rt::kInvalidNull);
+    case VT::Null: raise(rt::kInvalidUseOfNull);
     case VT::String: {
-      auto d = parseNumber(v.strValue());
+      auto d = parseNumberText(v.strValue());
       if (!d) raise(rt::kTypeMismatch);
       return *d;
     }
@@ -147,12 +93,12 @@ std::int32_t toInteger(Runtime& rt, const Variant& v) {
 bool toBool(Runtime& rt, const Variant& v) {
   switch (v.type()) {
     case VT::Empty: return false;
-    case VT::Null: raise(rt::kInvalidNull);
+    case VT::Null: raise(rt::kInvalidUseOfNull);
     case VT::String: {
       std::string_view s = v.strValue();
       if (equalsIgnoreCase(s, "True") || equalsIgnoreCase(s, "#TRUE#")) return true;
       if (equalsIgnoreCase(s, "False") || equalsIgnoreCase(s, "#FALSE#")) return false;
-      auto d = parseNumber(s);
+      auto d = parseNumberText(s);
       if (!d) raise(rt::kTypeMismatch);
       return *d != 0;
     }
@@ -180,7 +126,7 @@ std::string plainText(const Variant& v) {
 
 std::string toStr(Runtime& rt, const Variant& v) {
   switch (v.type()) {
-    case VT::Null: raise(rt::kInvalidNull);
+    case VT::Null: raise(rt::kInvalidUseOfNull);
     case VT::Object: return toStr(rt, valueOf(rt, v));
     case VT::Array: raise(rt::kTypeMismatch);
     default: return plainText(v);
@@ -191,7 +137,7 @@ double toDate(Runtime& rt, const Variant& v) {
   switch (v.type()) {
     case VT::String: {
       if (auto d = parseDateText(v.strValue())) return *d;
-      if (auto n = parseNumber(v.strValue())) return *n;
+      if (auto n = parseNumberText(v.strValue())) return *n;
       raise(rt::kTypeMismatch);
     }
     default: return toDouble(rt, v);
@@ -216,7 +162,7 @@ Variant toNumeric(Runtime& rt, const Variant& v) {
     case VT::Empty: return Variant::integer(0);
     case VT::Boolean: return Variant::integer(v.intValue());
     case VT::String: {
-      auto d = parseNumber(v.strValue());
+      auto d = parseNumberText(v.strValue());
       if (!d) raise(rt::kTypeMismatch);
       return Variant::dbl(*d);
     }

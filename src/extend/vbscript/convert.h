@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "extend/vbscript/variant.h"
+#include "platform/number_text.h"
 
 namespace lathwick::vbs {
 
@@ -16,8 +17,7 @@ double bankersRound(double v);
 // Number text as the language prints it: 15 significant digits (7 for Single), no trailing
 // zeros, exponent form from 1E+15 up or when the fixed form would need more than 15 decimals.
 std::string numberText(double v, bool single = false);
-// Numeric text: blanks around, sign, digits, decimal point, exponent, or &H / &O forms.
-std::optional<double> parseNumber(std::string_view text);
+// Numeric text is read by parseNumberText() (platform/number_text.h).
 
 // The value of an object by its default member (91 for Nothing, 438 without a default);
 // other values are returned unchanged.

@@ -46,7 +46,7 @@ double dateSerial(int year, int month, int day) {
   y += m >= 0 ? m / 12 : (m - 11) / 12;
   m = ((m % 12) + 12) % 12;
   const long long days = daysFromCivil(y, static_cast<unsigned>(m + 1), 1) - kEpoch + (day - 1);
-  if (y < 100 || y > 9999) raise(rt::kInvalidCall);
+  if (y < 100 || y > 9999) raise(rt::kInvalidProcedureCall);
   return static_cast<double>(days);
 }
 

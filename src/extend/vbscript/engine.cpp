@@ -21,7 +21,7 @@ void guarded(F&& body) {
   } catch (const std::bad_alloc&) {
     throw ScriptError(rt::kOutOfMemory, errorText(rt::kOutOfMemory), kRuntimeSource);
   } catch (const std::exception& e) {
-    throw ScriptError(rt::kInternal, errorText(rt::kInternal), kRuntimeSource);
+    throw ScriptError(rt::kInternalError, errorText(rt::kInternalError), kRuntimeSource);
   }
 }
 }  // namespace
@@ -128,7 +128,7 @@ std::vector<ProcedureInfo> Engine::procedures() const {
 std::optional<Variant> Engine::run(std::string_view name, std::vector<Variant>& args) {
   GlobalEntry* e = rt_->findEntry(name);
   if (!e || e->kind != GlobalEntry::Procedure) {
-    ScriptError err(rt::kNotDefined, errorText(rt::kNotDefined), kRuntimeSource, std::string(name));
+    ScriptError err(rt::kSubOrFunctionNotDefined, errorText(rt::kSubOrFunctionNotDefined), kRuntimeSource, std::string(name));
     reportRuntime(err);
     return std::nullopt;
   }

@@ -26,7 +26,7 @@ class ErrObject : public Object {
   Variant invoke(Runtime& rt, int member, InvokeKind kind, const ArgRefs& args, bool) override {
     auto& e = rt.err;
     if (kind == InvokeKind::Let) {
-      if (args.size() != 1) raise(rt::kWrongArgs);
+      if (args.size() != 1) raise(rt::kWrongNumberOfArguments);
       const Variant& v = *args[0];
       switch (member) {
         case kNumber: e.number = toLong(rt, v); return {};
@@ -34,10 +34,10 @@ class ErrObject : public Object {
         case kSource: e.source = toStr(rt, v); return {};
         case kHelpFile: e.helpFile = toStr(rt, v); return {};
         case kHelpContext: e.helpContext = toLong(rt, v); return {};
-        default: raise(rt::kNoMember);
+        default: raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
       }
     }
-    if (kind == InvokeKind::Set) raise(rt::kNoMember);
+    if (kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
     switch (member) {
       case kNumber: noArgs(args); return Variant::longv(e.number);
       case kDescription: noArgs(args); return Variant::str(e.description);
@@ -46,24 +46,24 @@ class ErrObject : public Object {
       case kHelpContext: noArgs(args); return Variant::longv(e.helpContext);
       case kClear: noArgs(args); rt.clearErr(); return {};
       case kRaise: raiseError(rt, args); return {};
-      default: raise(rt::kNoMember);
+      default: raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
     }
   }
 
  private:
   static void noArgs(const ArgRefs& args) {
-    if (!args.empty()) raise(rt::kWrongArgs);
+    if (!args.empty()) raise(rt::kWrongNumberOfArguments);
   }
 
   static void raiseError(Runtime& rt, const ArgRefs& args) {
-    if (args.empty() || args.size() > 5) raise(rt::kWrongArgs);
+    if (args.empty() || args.size() > 5) raise(rt::kWrongNumberOfArguments);
     const Variant& n = *args[0];
     double d = toDouble(rt, n);
     d = bankersRound(d);
     if (!(d >= -2147483648.0 && d <= 4294967295.0)) raise(rt::kOverflow);
     // Numbers written in hexadecimal above &H7FFFFFFF arrive as their unsigned value.
     const auto number = static_cast<std::int32_t>(static_cast<std::int64_t>(d));
-    if (number == 0) raise(rt::kInvalidCall);
+    if (number == 0) raise(rt::kInvalidProcedureCall);
     const auto& prev = rt.err;
     const bool keep = prev.number != 0;  // omitted arguments keep the previous error's values
     auto given = [&](size_t i) { return args.size() > i && !args[i]->isEmpty(); };

@@ -4,20 +4,17 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/error_texts.h"
+
 namespace lathwick::vbs {
 
 inline constexpr const char* kRuntimeSource = "VBScript runtime error";
 inline constexpr const char* kCompileSource = "VBScript compilation error";
 inline constexpr int kObjectError = -2147221504;  // vbObjectError
 
-// Runtime error numbers the engine raises itself.
+// Runtime error numbers: the one table in platform/, named by their texts.
 namespace rt {
-inline constexpr int kInvalidCall = 5, kOverflow = 6, kOutOfMemory = 7, kSubscript = 9,
-                     kArrayLocked = 10, kDivByZero = 11, kTypeMismatch = 13, kOutOfStack = 28,
-                     kNotDefined = 35, kInternal = 51, kObjectNotSet = 91, kForNotInit = 92,
-                     kInvalidNull = 94, kObjectRequired = 424, kNoMember = 438, kNoAction = 445,
-                     kWrongArgs = 450, kNotCollection = 451, kUndefined = 500, kIllegalAssign = 501,
-                     kUnqualified = 505, kClassNotDefined = 506, kCantCreate = 429;
+using namespace ::lathwick::err;
 }
 
 // Compilation error numbers.
@@ -42,10 +39,9 @@ inline constexpr int kOutOfMemory = 1001, kSyntax = 1002, kExpectedColon = 1003,
                      kDefaultNotGet = 1058;
 }
 
-// The standard text of a runtime or compilation error number ("Unknown runtime error" when
-// the number is not one of the language's own).
-std::string errorText(int number);
-bool isKnownError(int number);
+// errorText() and isKnownError() come from the shared table (platform/error_texts.h).
+using ::lathwick::errorText;
+using ::lathwick::isKnownError;
 
 // A script error in flight. `name` is the identifier a name-related message appends.
 struct ScriptError : std::runtime_error {

@@ -34,13 +34,13 @@ std::vector<Variant> argValues(const ArgPack& pack) {
 
 namespace {
 size_t flatIndex(Runtime& rt, const ArrayData& a, const ArgRefs& idx) {
-  if (!a.allocated() || idx.size() != a.upper.size()) raise(rt::kSubscript);
+  if (!a.allocated() || idx.size() != a.upper.size()) raise(rt::kSubscriptOutOfRange);
   size_t flat = 0, stride = 1;
   for (size_t d = 0; d < idx.size(); ++d) {
     const Variant& iv = *idx[d];
-    if (iv.isNull()) raise(rt::kInvalidNull);
+    if (iv.isNull()) raise(rt::kInvalidUseOfNull);
     const std::int32_t i = toLong(rt, iv);
-    if (i < 0 || i > a.upper[d]) raise(rt::kSubscript);
+    if (i < 0 || i > a.upper[d]) raise(rt::kSubscriptOutOfRange);
     flat += static_cast<size_t>(i) * stride;
     stride *= static_cast<size_t>(a.upper[d]) + 1;
   }
@@ -55,14 +55,14 @@ Variant& elementFor(Runtime& rt, ArrayData& a, const ArgRefs& idx) { return a.it
 // `v(args)` for a value: array element, default member of an object, else Type mismatch.
 Variant callValue(Runtime& rt, const Variant& v, const ArgRefs& args, bool statement, const std::string& name) {
   if (v.isArray()) {
-    if (args.empty()) raise(statement ? rt::kTypeMismatch : rt::kSubscript, name);
+    if (args.empty()) raise(statement ? rt::kTypeMismatch : rt::kSubscriptOutOfRange, name);
     return indexArray(rt, *v.arrValue(), args);
   }
   if (v.isObject()) {
     Object* o = v.objValue().get();
-    if (!o) raise(rt::kObjectNotSet, name);
+    if (!o) raise(rt::kObjectVariableNotSet, name);
     const int d = o->defaultMember();
-    if (d < 0) raise(rt::kNoMember, name);
+    if (d < 0) raise(rt::kObjectDoesntSupportThisPropertyOrMethod, name);
     ObjRef keep = v.objValue();
     return o->invoke(rt, d, statement ? InvokeKind::Call : InvokeKind::Get, args, false);
   }
@@ -89,15 +89,15 @@ Variant Expr::call(Frame& f, ArgPack& args, bool statement) const {
   return callValue(f.rt, v, args.refs, statement, {});
 }
 
-void Expr::assign(Frame&, Variant, bool) const { raise(rt::kIllegalAssign); }
+void Expr::assign(Frame&, Variant, bool) const { raise(rt::kIllegalAssignment); }
 
 void Expr::assignIndexed(Frame& f, ArgPack& args, Variant v, bool isSet) const {
   const Variant target = eval(f);
   if (!target.isObject()) raise(rt::kTypeMismatch);
   Object* o = target.objValue().get();
-  if (!o) raise(rt::kObjectNotSet);
+  if (!o) raise(rt::kObjectVariableNotSet);
   const int d = o->defaultMember();
-  if (d < 0) raise(rt::kNoMember);
+  if (d < 0) raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
   Variant value = letValue(f.rt, std::move(v), isSet);
   ArgRefs refs = args.refs;
   refs.push_back(&value);
@@ -133,7 +133,7 @@ Variant* NameExpr::readable(Frame& f) const {
 
 Variant* NameExpr::writable(Frame& f) const {
   switch (kind) {
-    case BindKind::LocalConst: raise(rt::kIllegalAssign, name);
+    case BindKind::LocalConst: raise(rt::kIllegalAssignment, name);
     case BindKind::Global:
       switch (entry->kind) {
         case GlobalEntry::Variable: return &entry->value;
@@ -141,18 +141,18 @@ Variant* NameExpr::writable(Frame& f) const {
           Object* o;
           int m;
           if (f.rt.hostGlobal(entry, o, m)) return nullptr;
-          if (explicitUnit) raise(rt::kUndefined, name);
+          if (explicitUnit) raise(rt::kVariableIsUndefined, name);
           entry->kind = GlobalEntry::Variable;
           return &entry->value;
         }
         case GlobalEntry::Const:
         case GlobalEntry::Procedure:
         case GlobalEntry::Class:
-        case GlobalEntry::NamedObject: raise(rt::kIllegalAssign, name);
+        case GlobalEntry::NamedObject: raise(rt::kIllegalAssignment, name);
       }
       return nullptr;
     case BindKind::Implicit:
-      if (entry->kind == GlobalEntry::Const || entry->kind == GlobalEntry::Procedure) raise(rt::kIllegalAssign, name);
+      if (entry->kind == GlobalEntry::Const || entry->kind == GlobalEntry::Procedure) raise(rt::kIllegalAssignment, name);
       return readable(f);
     default: return readable(f);
   }
@@ -179,7 +179,7 @@ Variant globalCall(Frame& f, const NameExpr& n, const ArgRefs& args, bool statem
     ObjRef keep(o);
     return o->invoke(rt, m, statement ? InvokeKind::Call : InvokeKind::Get, args, false);
   }
-  if (n.explicitUnit) raise(rt::kUndefined, n.name);
+  if (n.explicitUnit) raise(rt::kVariableIsUndefined, n.name);
   if (!withArgs && !statement) return {};
   raise(rt::kTypeMismatch, n.name);
 }
@@ -249,7 +249,7 @@ void NameExpr::assign(Frame& f, Variant v, bool isSet) const {
     o->invoke(rt, m, isSet ? InvokeKind::Set : InvokeKind::Let, {&value}, false);
     return;
   }
-  raise(rt::kIllegalAssign, name);
+  raise(rt::kIllegalAssignment, name);
 }
 
 void NameExpr::assignIndexed(Frame& f, ArgPack& args, Variant v, bool isSet) const {
@@ -263,9 +263,9 @@ void NameExpr::assignIndexed(Frame& f, ArgPack& args, Variant v, bool isSet) con
     if (p->isObject()) {
       const Variant target = *p;
       Object* o = target.objValue().get();
-      if (!o) raise(rt::kObjectNotSet, name);
+      if (!o) raise(rt::kObjectVariableNotSet, name);
       const int d = o->defaultMember();
-      if (d < 0) raise(rt::kNoMember, name);
+      if (d < 0) raise(rt::kObjectDoesntSupportThisPropertyOrMethod, name);
       ArgRefs refs = args.refs;
       refs.push_back(&value);
       o->invoke(rt, d, isSet ? InvokeKind::Set : InvokeKind::Let, refs, false);
@@ -287,7 +287,7 @@ void NameExpr::assignIndexed(Frame& f, ArgPack& args, Variant v, bool isSet) con
     o->invoke(rt, m, isSet ? InvokeKind::Set : InvokeKind::Let, refs, false);
     return;
   }
-  if (explicitUnit && entry && entry->kind == GlobalEntry::Undefined) raise(rt::kUndefined, name);
+  if (explicitUnit && entry && entry->kind == GlobalEntry::Undefined) raise(rt::kVariableIsUndefined, name);
   raise(rt::kTypeMismatch, name);
 }
 
@@ -299,7 +299,7 @@ Variant MeExpr::eval(Frame& f) const {
 }
 
 Variant WithObjectExpr::eval(Frame& f) const {
-  if (f.withStack.empty()) raise(rt::kUnqualified);
+  if (f.withStack.empty()) raise(rt::kInvalidOrUnqualifiedReference);
   return f.withStack.back();
 }
 
@@ -307,7 +307,7 @@ int MemberExpr::memberOf(Object* o) const {
   const void* key = o->memberTableKey();
   if (key && key == cacheKey_) return cacheId_;
   const int id = o->findMember(name);
-  if (id < 0) raise(rt::kNoMember, name);
+  if (id < 0) raise(rt::kObjectDoesntSupportThisPropertyOrMethod, name);
   if (key) {
     cacheKey_ = key;
     cacheId_ = id;
@@ -436,7 +436,7 @@ Variant BinaryExpr::eval(Frame& f) const {
 Variant NewExpr::eval(Frame& f) const {
   if (Variant r = f.rt.newBuiltinObject(className); r.isObject()) return r;
   if (entry->kind == GlobalEntry::Class) return f.rt.instantiate(entry->cls);
-  if (explicitUnit && entry->kind == GlobalEntry::Undefined) raise(rt::kUndefined, className);
+  if (explicitUnit && entry->kind == GlobalEntry::Undefined) raise(rt::kVariableIsUndefined, className);
   raise(rt::kClassNotDefined, className);
 }
 

@@ -99,10 +99,13 @@ Flow AppendStmt::exec(Frame& f) const {
     p = target->writable(f);  // the piece may have run code that changed the variable
     if (!p || !p->isString()) {
       target->assign(f, concat(f.rt, target->eval(f), tail), false);
-    } else if (tail.isString()) {
-      p->strRef() += tail.strValue();
-    } else if (!tail.isNull()) {
-      p->strRef() += plainText(tail);
+    } else {
+      const std::string hold = tail.isString() || tail.isNull() ? std::string() : plainText(tail);
+      const std::string& text = tail.isString() ? tail.strValue() : hold;
+      f.rt.noteStringGrowth(p->strValue().size() + text.size(), text.size());
+      p = target->writable(f);  // the host's poll may have run code
+      if (p && p->isString()) p->strRef() += text;
+      else target->assign(f, concat(f.rt, target->eval(f), Variant::str(text)), false);
     }
     return Flow::Normal;
   }
@@ -115,6 +118,10 @@ Flow AppendStmt::exec(Frame& f) const {
     else if (!v.isNull()) text += plainText(v);
   }
   p = target->writable(f);
+  if (p && p->isString()) {
+    f.rt.noteStringGrowth(p->strValue().size() + text.size(), text.size());
+    p = target->writable(f);
+  }
   if (p && p->isString()) p->strRef() += text;
   else target->assign(f, concat(f.rt, target->eval(f), Variant::str(std::move(text))), false);
   return Flow::Normal;
@@ -174,7 +181,7 @@ Flow SelectStmt::exec(Frame& f) const {
 
 namespace {
 Variant loopNumber(Runtime& rt, const Variant& v) {
-  if (v.isNull()) raise(rt::kInvalidNull);
+  if (v.isNull()) raise(rt::kInvalidUseOfNull);
   return toNumeric(rt, v);
 }
 
@@ -210,13 +217,13 @@ Flow ForStmt::exec(Frame& f) const {
     absorb(f, e);
     const Flow r = execBlock(f, body);
     if (r != Flow::Normal && r != Flow::ExitFor) return r;
-    f.rt.setErr(ScriptError(rt::kForNotInit, errorText(rt::kForNotInit), kRuntimeSource));
+    f.rt.setErr(ScriptError(rt::kForLoopNotInitialized, errorText(rt::kForLoopNotInitialized), kRuntimeSource));
     return Flow::Normal;
   }
   const double last = end.number();
   const bool up = stepValue.number() >= 0;
   Variant* counter = var->writable(f);
-  if (!counter) raise(rt::kIllegalAssign, var->name);
+  if (!counter) raise(rt::kIllegalAssignment, var->name);
   // The counter takes the wider type of start and step, as start + step would.
   *counter = start;
   while (true) {
@@ -245,14 +252,14 @@ Flow ForEachStmt::exec(Frame& f) const {
     hold = g.arrValue();
     list = &hold->items;
   } else if (g.isObject() && g.objValue()) {
-    if (!g.objValue()->enumerate(rt, items)) raise(rt::kNotCollection);
+    if (!g.objValue()->enumerate(rt, items)) raise(rt::kObjectNotACollection);
     collection = true;
   } else {
-    raise(g.isObject() ? rt::kObjectRequired : rt::kNotCollection);
+    raise(g.isObject() ? rt::kObjectRequired : rt::kObjectNotACollection);
   }
   for (size_t i = 0; i < list->size(); ++i) {
     Variant* v = var->writable(f);
-    if (!v) raise(rt::kIllegalAssign, var->name);
+    if (!v) raise(rt::kIllegalAssignment, var->name);
     *v = (*list)[i];
     const Flow r = execBlock(f, body);
     if (r == Flow::ExitFor) return Flow::Normal;
@@ -316,9 +323,9 @@ Flow ReDimStmt::exec(Frame& f) const {
     std::vector<std::int32_t> bounds;
     for (const auto& b : item.bounds) {
       const Variant v = b->eval(f);
-      if (v.isNull()) raise(rt::kInvalidNull);
+      if (v.isNull()) raise(rt::kInvalidUseOfNull);
       const std::int32_t n = toLong(rt, v);
-      if (n < -1) raise(rt::kSubscript);
+      if (n < -1) raise(rt::kSubscriptOutOfRange);
       bounds.push_back(n);
     }
     GlobalEntry* e = item.var->entry;
@@ -328,14 +335,14 @@ Flow ReDimStmt::exec(Frame& f) const {
       if (!f.rt.hostGlobal(e, o, m)) e->kind = GlobalEntry::Variable;  // ReDim declares, even under Option Explicit
     }
     Variant* p = item.var->writable(f);
-    if (!p) raise(rt::kIllegalAssign, item.var->name);
+    if (!p) raise(rt::kIllegalAssignment, item.var->name);
     if (p->isArray()) {
       const ArrayData& old = *p->arrValue();
-      if (old.fixed || old.locks > 0) raise(rt::kArrayLocked);
+      if (old.fixed || old.locks > 0) raise(rt::kArrayFixedOrLocked);
       if (preserve && old.allocated()) {
-        if (old.upper.size() != bounds.size()) raise(rt::kSubscript);
+        if (old.upper.size() != bounds.size()) raise(rt::kSubscriptOutOfRange);
         for (size_t d = 0; d + 1 < bounds.size(); ++d)
-          if (old.upper[d] != bounds[d]) raise(rt::kSubscript);
+          if (old.upper[d] != bounds[d]) raise(rt::kSubscriptOutOfRange);
         ArrayData& a = p->arrayForWrite();
         a.items.resize(ArrayData::elementCount(bounds));
         a.upper = bounds;
@@ -351,7 +358,7 @@ Flow EraseStmt::exec(Frame& f) const {
   for (const auto& v : vars) {
     Variant* p = v->writable(f);
     if (!p || !p->isArray()) raise(rt::kTypeMismatch, v->name);
-    if (p->arrValue()->locks > 0) raise(rt::kArrayLocked);
+    if (p->arrValue()->locks > 0) raise(rt::kArrayFixedOrLocked);
     ArrayData& a = p->arrayForWrite();
     if (a.fixed) {
       for (auto& item : a.items) item = Variant();

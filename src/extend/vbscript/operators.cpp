@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "extend/vbscript/convert.h"
+#include "extend/vbscript/runtime.h"
 #include "extend/vbscript/errors.h"
 #include "platform/bytes.h"
 
@@ -23,7 +24,7 @@ int rank(VT t) {
 }
 
 Variant checkedDouble(double d) {
-  if (std::isnan(d)) raise(rt::kInvalidCall);
+  if (std::isnan(d)) raise(rt::kInvalidProcedureCall);
   if (!std::isfinite(d)) raise(rt::kOverflow);
   return Variant::dbl(d);
 }
@@ -58,7 +59,7 @@ Variant arith(Runtime& rt, BinOp op, const Variant& a0, const Variant& b0) {
   }
   if (op == BinOp::IntDiv || op == BinOp::Mod) {
     const long long x = roundedInteger(rt, a), y = roundedInteger(rt, b);
-    if (y == 0) raise(rt::kDivByZero);
+    if (y == 0) raise(rt::kDivisionByZero);
     const long long r = op == BinOp::IntDiv ? x / y : x % y;
     auto small = [](const Variant& v) {
       return v.type() == VT::Integer || v.type() == VT::Byte || v.type() == VT::Boolean || v.isEmpty();
@@ -71,7 +72,7 @@ Variant arith(Runtime& rt, BinOp op, const Variant& a0, const Variant& b0) {
   if (op == BinOp::Pow) return checkedDouble(std::pow(x.number(), y.number()));
   if (op == BinOp::Div) {
     const double d = y.number();
-    if (d == 0) raise(x.number() == 0 ? rt::kOverflow : rt::kDivByZero);
+    if (d == 0) raise(x.number() == 0 ? rt::kOverflow : rt::kDivisionByZero);
     const double q = x.number() / d;
     if (x.type() != VT::Double && y.type() != VT::Double && (x.type() == VT::Single || y.type() == VT::Single) &&
         rank(x.type()) <= 3 && rank(y.type()) <= 3)
@@ -110,7 +111,9 @@ Variant concat(Runtime& rt, const Variant& a0, const Variant& b0) {
   const Variant& b = b0.isObject() ? valueOf(rt, b0) : b0;
   if (a.isArray() || b.isArray()) raise(rt::kTypeMismatch);
   std::string s = plainText(a);
-  s += plainText(b);
+  const std::string tail = plainText(b);
+  rt.noteStringGrowth(s.size() + tail.size(), s.size() + tail.size());
+  s += tail;
   return Variant::str(std::move(s));
 }
 
@@ -235,7 +238,7 @@ int compare(Runtime& rt, const Variant& a0, const Variant& b0, bool aLit, bool b
   if (n.type() == VT::Boolean) {
     r = cmpStr(s.strValue(), n.boolValue() ? "True" : "False");
   } else if (numLit) {
-    auto d = parseNumber(s.strValue());
+    auto d = parseNumberText(s.strValue());
     if (!d) raise(rt::kTypeMismatch);
     r = cmpNum(*d, n.number());
   } else if (n.type() == VT::Integer || n.type() == VT::Long) {

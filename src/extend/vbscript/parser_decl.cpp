@@ -147,6 +147,11 @@ StmtPtr Parser::dimStatement(bool inClass, bool isPublic) {
       if (e->kind == GlobalEntry::Const) failAt(ce::kRedefined, nameTok);
       for (const auto& c : unit_.constants)
         if (c.first == e) failAt(ce::kRedefined, nameTok);
+      // A second script-level declaration of one name in one piece of code.
+      for (const auto& v : unit_.variables)
+        if (v.first == e) failAt(ce::kRedefined, nameTok);
+      for (const GlobalEntry* d : unit_.dynamicArrays)
+        if (d == e) failAt(ce::kRedefined, nameTok);
       if (isArray && bounds.empty()) unit_.dynamicArrays.push_back(e);
       else unit_.variables.emplace_back(e, bounds);
     }

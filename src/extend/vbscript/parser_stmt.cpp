@@ -167,7 +167,8 @@ StmtPtr Parser::statement() {
     if (equalsIgnoreCase(t.text, "Let") && peek().kind == Tok::Ident) take();
     return assignmentOrCall();
   }
-  if (t.kind == Tok::Dot) return assignmentOrCall();
+  // `(expr).Member ...`: a parenthesised expression as the object of a member call.
+  if (t.kind == Tok::Dot || t.kind == Tok::LParen) return assignmentOrCall();
   if (t.kind == Tok::Number) fail(ce::kExpectedStmt);
   fail(ce::kExpectedStmt);
 }
@@ -178,7 +179,7 @@ StmtPtr Parser::assignmentOrCall() {
   if (isKw(Kw::Me)) {
     take();
     lhs = postfix(at<MeExpr>(start));
-  } else if (is(Tok::Dot)) {
+  } else if (is(Tok::Dot) || is(Tok::LParen)) {
     lhs = postfix(primary());
   } else {
     const Token& nameTok = take();
@@ -244,11 +245,11 @@ StmtPtr Parser::assignmentOrCall() {
 
 StmtPtr Parser::callStatement() {
   const Token& start = take();
-  if (!is(Tok::Ident) && !is(Tok::Dot) && !isKw(Kw::Me)) fail(ce::kExpectedIdent);
+  if (!is(Tok::Ident) && !is(Tok::Dot) && !is(Tok::LParen) && !isKw(Kw::Me)) fail(ce::kExpectedIdent);
   ExprPtr target;
   if (is(Tok::Ident)) target = nameNode(take(), false);
   else if (isKw(Kw::Me)) target = at<MeExpr>(take());
-  else target = primary();
+  else target = primary();  // `.Member` inside With, or a parenthesised expression
   target = postfix(std::move(target));
   auto s = at<CallStmt>(start);
   s->call = std::move(target);

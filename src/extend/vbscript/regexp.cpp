@@ -22,7 +22,7 @@ int memberIndex(std::string_view name, std::initializer_list<const char*> names)
 }
 
 void noArgs(const ArgRefs& a) {
-  if (!a.empty()) raise(rt::kWrongArgs);
+  if (!a.empty()) raise(rt::kWrongNumberOfArguments);
 }
 
 // A read-only list: Count, Item(i) (default) and For Each.
@@ -37,14 +37,14 @@ class ListObject : public Object {
     return true;
   }
   Variant invoke(Runtime& rt, int member, InvokeKind kind, const ArgRefs& args, bool) override {
-    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kNoAction);
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisAction);
     if (member == 1) {
       noArgs(args);
       return Variant::longv(static_cast<std::int32_t>(items_.size()));
     }
-    if (args.size() != 1) raise(rt::kWrongArgs);
+    if (args.size() != 1) raise(rt::kWrongNumberOfArguments);
     const std::int32_t i = toLong(rt, *args[0]);
-    if (i < 0 || static_cast<size_t>(i) >= items_.size()) raise(rt::kInvalidCall);
+    if (i < 0 || static_cast<size_t>(i) >= items_.size()) raise(rt::kInvalidProcedureCall);
     return items_[static_cast<size_t>(i)];
   }
 
@@ -63,7 +63,7 @@ class MatchObject : public Object {
   }
   int defaultMember() const override { return 0; }
   Variant invoke(Runtime& rt, int member, InvokeKind kind, const ArgRefs& args, bool) override {
-    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kNoAction);
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisAction);
     if (member == 3 && !args.empty()) {
       ObjRef list = makeObject<ListObject>("ISubMatches", subs_);
       return list->invoke(rt, 0, kind, args, false);
@@ -92,24 +92,24 @@ class RegExpObject : public Object {
   Variant invoke(Runtime& rt, int member, InvokeKind kind, const ArgRefs& args, bool) override {
     if (member <= 3) {
       if (kind == InvokeKind::Let) {
-        if (args.size() != 1) raise(rt::kWrongArgs);
+        if (args.size() != 1) raise(rt::kWrongNumberOfArguments);
         const Variant& v = *args[0];
         if (member == 0) pattern_ = toStr(rt, v);
         else (member == 1 ? ignoreCase_ : member == 2 ? global_ : multiline_) = toBool(rt, v);
         compiled_.reset();
         return {};
       }
-      if (kind == InvokeKind::Set) raise(rt::kNoAction);
+      if (kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisAction);
       noArgs(args);
       if (member == 0) return Variant::str(pattern_);
       return Variant::boolean(member == 1 ? ignoreCase_ : member == 2 ? global_ : multiline_);
     }
-    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kNoMember);
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) raise(rt::kObjectDoesntSupportThisPropertyOrMethod);
     if (member == 6) {
-      if (args.size() != 2) raise(rt::kWrongArgs);
+      if (args.size() != 2) raise(rt::kWrongNumberOfArguments);
       return Variant::str(replace(rt, text(rt, *args[0]), text(rt, *args[1])));
     }
-    if (args.size() != 1) raise(rt::kWrongArgs);
+    if (args.size() != 1) raise(rt::kWrongNumberOfArguments);
     const std::string s = text(rt, *args[0]);
     if (member == 4) {
       std::vector<int> g;

@@ -102,12 +102,12 @@ void Runtime::enterCall() {
   char probe = 0;
   if (depth_ == 0 || !stackBase_) stackBase_ = &probe;
   const std::ptrdiff_t used = stackBase_ - &probe;
-  if (depth_ >= maxDepth || used > kStackBudget || used < -kStackBudget) raise(rt::kOutOfStack);
+  if (depth_ >= maxDepth || used > kStackBudget || used < -kStackBudget) raise(rt::kOutOfStackSpace);
   ++depth_;
 }
 
 Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef me) {
-  if (args.size() != p.params.size()) raise(rt::kWrongArgs);
+  if (args.size() != p.params.size()) raise(rt::kWrongNumberOfArguments);
   const CallDepth depth(*this);
   checkInterrupt();
   std::vector<Variant> storage(static_cast<size_t>(p.numSlots));
@@ -138,7 +138,7 @@ Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef m
 
 Variant Runtime::callBuiltin(const Builtin& b, const ArgRefs& args) {
   const int n = static_cast<int>(args.size());
-  if (n < b.minArgs || n > b.maxArgs) raise(rt::kWrongArgs, b.name);
+  if (n < b.minArgs || n > b.maxArgs) raise(rt::kWrongNumberOfArguments, b.name);
   ArgList list(args);
   return b.fn(*this, list);
 }
@@ -200,7 +200,7 @@ Variant callValue(Runtime& rt, const Variant& v, const ArgRefs& args, bool state
 
 Variant ScriptInstance::invoke(Runtime& rt, int member, InvokeKind kind, const ArgRefs& args, bool inside) {
   const ClassMember& m = cls_->members[static_cast<size_t>(member)];
-  if (!m.isPublic && !inside) raise(rt::kNoMember, m.name);
+  if (!m.isPublic && !inside) raise(rt::kObjectDoesntSupportThisPropertyOrMethod, m.name);
   ObjRef self(this);
   if (m.field >= 0) {
     Variant& fv = fields[static_cast<size_t>(m.field)];
@@ -229,7 +229,7 @@ Variant ScriptInstance::invoke(Runtime& rt, int member, InvokeKind kind, const A
     case InvokeKind::Get:
     case InvokeKind::Call: {
       const ProcPtr& p = m.method ? m.method : m.get;
-      if (!p) raise(rt::kNoMember, m.name);
+      if (!p) raise(rt::kObjectDoesntSupportThisPropertyOrMethod, m.name);
       // `o.Items(1)` on a member without parameters indexes what it returns.
       if (p->params.empty() && !args.empty())
         return callValue(rt, rt.callProcedure(*p, {}, self), args, kind == InvokeKind::Call, m.name);
@@ -237,11 +237,11 @@ Variant ScriptInstance::invoke(Runtime& rt, int member, InvokeKind kind, const A
     }
     case InvokeKind::Let:
       if (m.let) return rt.callProcedure(*m.let, args, self);
-      if (m.method || m.get) raise(rt::kIllegalAssign, m.name);
-      raise(rt::kNoMember, m.name);
+      if (m.method || m.get) raise(rt::kIllegalAssignment, m.name);
+      raise(rt::kObjectDoesntSupportThisPropertyOrMethod, m.name);
     case InvokeKind::Set:
       if (m.set) return rt.callProcedure(*m.set, args, self);
-      raise(rt::kNoMember, m.name);
+      raise(rt::kObjectDoesntSupportThisPropertyOrMethod, m.name);
   }
   return {};
 }

@@ -187,6 +187,20 @@ class Runtime {
     if (interruptFlag.load(std::memory_order_relaxed)) throwInterrupt();
   }
   [[noreturn]] void throwInterrupt();
+  // The longest string a script may build: beyond it, "Out of string space".
+  static constexpr std::size_t kMaxStringLength = std::size_t{1} << 28;
+  // Called before a string of `newLength` characters is made by adding `added` characters:
+  // raises "Out of string space" past the cap, and after every few megabytes of growth polls
+  // the host and stops if an interrupt was asked for, so that a loop doubling a string is
+  // stopped long before it could fill memory.
+  void noteStringGrowth(std::size_t newLength, std::size_t added) {
+    if (newLength > kMaxStringLength) raise(rt::kOutOfStringSpace);
+    grown_ += added;
+    if (grown_ < kGrowthPerPoll) return;
+    grown_ = 0;
+    if (ui.poll) ui.poll();
+    if (interruptFlag.load(std::memory_order_relaxed)) throwInterrupt();
+  }
   void enterCall();
   void leaveCall() { --depth_; }
   // One level of call depth for a scope: raises "Out of stack space" when too deep.
@@ -240,6 +254,8 @@ class Runtime {
   int depth_ = 0;
   const char* stackBase_ = nullptr;
   unsigned pollTick_ = 0;
+  static constexpr std::size_t kGrowthPerPoll = std::size_t{4} << 20;
+  std::size_t grown_ = 0;
 };
 
 std::string lowerName(std::string_view s);

@@ -5,19 +5,14 @@
 #include <optional>
 #include <string>
 
+#include "platform/questions.h"
+
 namespace lathwick::gui {
 
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
-enum class Icon { None, Information, Exclamation, Critical, Question };
-enum class Answer { Ok, Cancel, Yes, No };
-
-struct FileRequest {
-  bool save = false;          // Save dialog; otherwise Open
-  std::string title;
-  std::string filter;         // "All Files (*.*)|*.*" style: description|pattern pairs
-  std::string initialFolder;
-  std::string fileName;       // proposed name
-};
+using lathwick::Answer;
+using lathwick::Buttons;
+using lathwick::FileRequest;
+using lathwick::Icon;
 
 class Dialogs {
  public:

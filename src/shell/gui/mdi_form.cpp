@@ -20,8 +20,8 @@
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
-#include "shell/app_folder.h"
-#include "shell/gui/menu_set.h"
+#include "platform/app_folder.h"
+#include "workspace/gui/menu_set.h"
 #include "shell/gui/frame_look.h"
 #include "shell/gui/status_panels.h"
 #include "platform/gui/help_key.h"
@@ -33,6 +33,7 @@ namespace lathwick::gui {
 MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent)
     : QMainWindow(parent),
       values_(values),
+      editorFiles_{values.Temp2File, values.Temp3File, values.UndoFile, values.DataFilePath},
       settings_(settings),
       mdi_(new QMdiArea(this)),
       currentScheme_(values.CurrentScheme) {

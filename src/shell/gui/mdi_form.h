@@ -11,10 +11,11 @@
 #include <vector>
 
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/reload_document.h"
 #include "format/scheme_record.h"
-#include "shell/command_dispatch.h"
-#include "shell/settings_table.h"
+#include "workspace/command_dispatch.h"
+#include "platform/settings_table.h"
 #include "shell/startup.h"
 
 class QAction;
@@ -36,14 +37,7 @@ class TransformDialogs;
 class TransformTarget;
 class StatusPanels;
 
-// The last non-empty selection made in any document.
-struct LastSelection {
-  int start = 0;
-  int length = 0;
-  std::string text;
-};
-
-class MDIForm1 : public QMainWindow {
+class MDIForm1 : public QMainWindow, public EditorHost {
   Q_OBJECT
  public:
   MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent = nullptr);
@@ -59,20 +53,21 @@ class MDIForm1 : public QMainWindow {
   frmEditor* newDocument();
   frmEditor* LoadDoc(std::string fileName);  // nullptr when nothing was opened
   bool SaveFile(frmEditor& window, const std::string& fileName);
-  void saveAsPlain(frmEditor& window);
+  bool saveFile(frmEditor& window, const std::string& fileName) override { return SaveFile(window, fileName); }
+  bool saveAsPlain(frmEditor& window) override;
   void saveAsRich(frmEditor& window);
   // The close query of a changed document: true when the window is to stay open.
-  bool queryClose(frmEditor& window);
+  bool queryClose(frmEditor& window) override;
 
-  frmEditor* activeEditor() const;
-  std::vector<frmEditor*> editors() const;  // in the order they were opened
-  DocumentTable& documents() { return documents_; }
+  frmEditor* activeEditor() const override;
+  std::vector<frmEditor*> editors() const override;  // in the order they were opened
+  DocumentTable& documents() override { return documents_; }
   frmEditor* editorOf(int index) const;
   // A document window has closed: its slot is free and it no longer takes part in anything.
-  void forgetWindow(int index);
+  void forgetWindow(int index) override;
 
   // Commands and menus -------------------------------------------------------------------------
-  CommandDispatcher& commands() { return commands_; }
+  CommandDispatcher& commands() override { return commands_; }
   // After a later part registers commands: menus and toolbar enable what now exists.
   void refreshAvailability();
   // The action of a menu entry in the menu now shown (the active document's, or the frame's).
@@ -87,16 +82,16 @@ class MDIForm1 : public QMainWindow {
   const AppValues& values() const { return values_; }
   SettingsStore& settings() { return settings_; }
   StatusPanels& statusPanels() const { return *panels_; }
-  LastSelection& lastSelection() { return lastSelection_; }
+  LastSelection& lastSelection() override { return lastSelection_; }
   bool autoFormat() const { return autoFormat_; }
   bool lineNumbers() const { return lineNumbers_; }
   bool toolbarText() const;
-  std::int16_t currentScheme() const { return currentScheme_; }
-  void setCurrentScheme(std::int16_t scheme) { currentScheme_ = scheme; }
+  int currentScheme() const override { return currentScheme_; }
+  void setCurrentScheme(std::int16_t scheme) override { currentScheme_ = scheme; }
   const std::string& lastPath() const { return lastPath_; }
 
   // While a long pass runs, Esc anywhere in the program sets the process-wide cancel flag.
-  void setPassRunning(bool running) { passRunning_ = running; }
+  void setPassRunning(bool running) override { passRunning_ = running; }
   bool passRunning() const { return passRunning_; }
 
   // The search, renumber and operate dialogs; a closing window lets go of them.
@@ -104,17 +99,35 @@ class MDIForm1 : public QMainWindow {
   void forgetTarget(const TransformTarget* target);
 
   // The windows that share the one undo file.
-  FileUndoGroup& undoGroup() { return undoGroup_; }
+  FileUndoGroup& undoGroup() override { return undoGroup_; }
 
   // The record of the current scheme, read from the data file when the number changes; the first
   // shipped scheme when the data file cannot give it.
-  const SchemeRecord* currentSchemeRecord();
+  const SchemeRecord* currentSchemeRecord() override;
 
   // The scheme data file could not be read: said once, not for every window.
-  void reportDataFileProblem();
+  void reportDataFileProblem() override;
 
   void rebuildRecentMenus();
   void recentListUpdate(const std::string& name);
+
+  // The workspace, as commands and scripts see it ----------------------------------------------
+  WorkspaceDocument* activeDocument() override;
+  std::vector<WorkspaceDocument*> openDocuments() override;
+  void setStatusText(const std::string& text) override;
+  Answer messageBox(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) override;
+  std::optional<std::string> inputBox(const std::string& prompt, const std::string& caption,
+                                      const std::string& defaultText) override;
+  std::optional<std::string> chooseFile(const FileRequest& request) override;
+  bool runCommand(const std::string& name, int index = -1) override { return commands_.run(name, index); }
+
+  // What the document windows ask of their frame ---------------------------------------------
+  QWidget* frameWidget() override { return this; }
+  const EditorFiles& editorFiles() const override { return editorFiles_; }
+  void setPanelText(const std::string& panel, const std::string& text) override;
+  void setOverwrite(bool overwrite) override;
+  void refreshCommandStates() override { En_Dis_able(); }
+  void forgetEditor(frmEditor& window) override;
 
   QMdiArea* mdiArea() const { return mdi_; }
   void tileVertically();    // side by side
@@ -126,6 +139,7 @@ class MDIForm1 : public QMainWindow {
 
  private:
   void registerCommands();
+  void registerFrameCommands();
   void buildToolbar();
   void showMenusOf(frmEditor* editor);
   void onSubWindowActivated(QMdiSubWindow* window);
@@ -145,6 +159,7 @@ class MDIForm1 : public QMainWindow {
   FrameSettings currentFrameSettings() const;
 
   AppValues values_;
+  EditorFiles editorFiles_;
   SettingsStore& settings_;
   CommandDispatcher commands_;
   FileUndoGroup undoGroup_;  // before the windows, which leave it as they go

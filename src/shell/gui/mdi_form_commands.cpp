@@ -1,21 +1,29 @@
-// The command table of the frame: every menu entry and toolbar button of the frame and of the
-// document windows reaches its work here, under its menu name. A name left out is a feature
-// this version does not have; its entries show disabled.
+// The command table: every menu entry and toolbar button reaches its work under its menu name.
+// A name left out is a feature this version does not have; its entries show disabled.
 #include <QApplication>
-#include <QClipboard>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "document/gui/document_commands.h"
 #include "document/gui/frm_editor.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
+#include "transform/gui/transform_commands.h"
 #include "transform/gui/transform_dialogs.h"
 
 namespace lathwick::gui {
 
+// Each part of the program adds its own commands; a new part is one more line here.
 void MDIForm1::registerCommands() {
+  registerFrameCommands();
+  registerDocumentCommands(commands_, *this);
+  registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
+}
+
+// The frame's own commands: files, view settings, help and the Window menu.
+void MDIForm1::registerFrameCommands() {
   auto withEditor = [this](auto action) {
     return [this, action](int) {
       if (frmEditor* editor = activeEditor()) action(*editor);
@@ -43,42 +51,8 @@ void MDIForm1::registerCommands() {
   commands_.add("mnuTileVert", [this](int) { tileVertically(); });
   commands_.add("mnuTilrHoriz", [this](int) { tileHorizontally(); });
 
-  commands_.add("mnuClose", withEditor([](frmEditor& e) {
-    if (auto* sub = qobject_cast<QMdiSubWindow*>(e.parentWidget())) sub->close();
-  }));
-  commands_.add("mnuSave", withEditor([](frmEditor& e) { e.Save(); }));
   commands_.add("mnuSaveAsTXT", withEditor([this](frmEditor& e) { saveAsPlain(e); }));
   commands_.add("mnuSaveRTF", withEditor([this](frmEditor& e) { saveAsRich(e); }));
-
-  commands_.add("mnuModal", [this](int index) {
-    if (frmEditor* editor = activeEditor()) editor->Colorize(index);
-  });
-  commands_.add("mnuScheme", [this](int index) {
-    if (frmEditor* editor = activeEditor()) editor->applyScheme(index);
-  });
-  commands_.add("mnuFind", withEditor([this](frmEditor& e) { transforms_->findNext(e); }));
-  commands_.add("mnuReplace", withEditor([this](frmEditor& e) { transforms_->replaceNext(e); }));
-  commands_.add("mnuSetReplace", withEditor([this](frmEditor& e) { transforms_->setSearchReplace(e); }));
-  commands_.add("mnuResequence", withEditor([this](frmEditor& e) { transforms_->renumber(e); }));
-  commands_.add("mnuOperate", withEditor([this](frmEditor& e) { transforms_->operate(e); }));
-  commands_.add("mnuAddSpaces", withEditor([](frmEditor& e) { e.AddSpaces(); }));
-  commands_.add("mnuRemove", withEditor([](frmEditor& e) { e.RemoveSpaces(); }));
-  commands_.add("mnuJunkFilter", withEditor([](frmEditor& e) { e.JunkFilter(); }));
-  commands_.add("mnuUndo", withEditor([](frmEditor& e) { e.Undo(); }));
-  commands_.add("mnuCut", withEditor([](frmEditor& e) { e.Cut(); }));
-  commands_.add("mnuCopy", withEditor([](frmEditor& e) { e.Copy(); }));
-  commands_.add("mnuPaste", withEditor([](frmEditor& e) { e.Paste(); }));
-  commands_.add("Delete", withEditor([](frmEditor& e) { e.deleteKey(); }));
-  commands_.add("mnuCutLine", withEditor([](frmEditor& e) { e.cutLine(); }));
-  commands_.add("mnuCutToEnd", withEditor([](frmEditor& e) { e.cutToEnd(); }));
-  commands_.add("mnuPasteLine", withEditor([](frmEditor& e) { e.pasteLine(); }));
-  commands_.add("mnuAppend", withEditor([](frmEditor& e) { e.appendClipboard(); }));
-  commands_.add("mnuCleaeClip", [](int) { QApplication::clipboard()->clear(); });
-  commands_.add("mnuSelectAll", withEditor([](frmEditor& e) { e.selectAll(); }));
-  commands_.add("mnuGetLast", withEditor([](frmEditor& e) { e.getLastSelection(); }));
-  commands_.add("mnuUcase", withEditor([](frmEditor& e) { e.changeCase(0); }));
-  commands_.add("mnuLcase", withEditor([](frmEditor& e) { e.changeCase(1); }));
-  commands_.add("mnuTitlecase", withEditor([](frmEditor& e) { e.changeCase(2); }));
 }
 
 }  // namespace lathwick::gui

@@ -14,26 +14,24 @@
 #include "shell/gui/frame_look.h"
 #include "document/gui/frm_editor.h"
 #include "document/paths.h"
+#include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
-#include "shell/app_folder.h"
+#include "platform/app_folder.h"
 #include "shell/gui/mdi_form.h"
-#include "shell/gui/menu_set.h"
-#include "shell/history.h"
+#include "workspace/gui/menu_set.h"
+#include "workspace/history.h"
 
 namespace lathwick::gui {
 namespace {
 QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
 
-constexpr const char* kPlainFilter = "Text (*.*)|*.*|Text (*.TXT)|*.TXT";
-constexpr const char* kPlainTitle = "Save As Plain Text File";
-
 // Opens the file for reading and closes it again, so a missing or unreadable file ends the load
 // with the runtime's own error.
 void checkReadable(const std::string& name) {
-  if (isDirectory(name)) throw makeError(err::kPathFileAccess);
+  if (isDirectory(name)) throw makeError(err::kPathFileAccessError);
   if (!isRegularFile(name)) throw makeError(err::kFileNotFound);
   std::ifstream probe(nativePath(name), std::ios::binary);
   if (!probe) throw makeError(err::kPermissionDenied);
@@ -105,7 +103,12 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     const int index = documents_.findFreeSlot();
     editor = createWindow(index);
     documents_.record(index).scheme = currentScheme_;
-    if (!copyFile(fileName, values_.Temp2File)) throw makeError(err::kPathFileAccess);
+    // A program with Linux line ends is worked on as its CR LF twin and saved back with LF.
+    LineEnds lineEnds = LineEnds::CrLf;
+    if (!isRichTextName(fileName))
+      lineEnds = copyAsCrLfTwin(fileName, values_.Temp2File);
+    else if (!copyFile(fileName, values_.Temp2File))
+      throw makeError(err::kPathFileAccessError);
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
     settings_.save("Startup", "LastPath", lastPath_);
@@ -113,6 +116,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     editor->rtfTextBox().loadFile(values_.Temp2File, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
     DocumentRecord& record = documents_.record(index);
     record.fileName = fileName;
+    record.lineEnds = lineEnds;
     editor->setWindowTitle(q(captionAfterLoad(fileName)));
     applyAutoFormat();
     recentListUpdate(fileName);
@@ -136,7 +140,11 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
 bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   try {
     HourGlass wait;
-    window.rtfTextBox().saveFile(fileName, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
+    const LineEnds lineEnds = window.record().lineEnds;
+    if (!isRichTextName(fileName) && lineEnds != LineEnds::CrLf)
+      writeFileAtomically(fileName, withLineEnds(window.rtfTextBox().text(), lineEnds));
+    else
+      window.rtfTextBox().saveFile(fileName, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
   } catch (const std::exception& e) {
     dialogs().message(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
     return false;
@@ -150,14 +158,14 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   return true;
 }
 
-void MDIForm1::saveAsPlain(frmEditor& window) {
+bool MDIForm1::saveAsPlain(frmEditor& window) {
   std::string current = window.record().fileName;
   FileRequest request{true, kPlainTitle, kPlainFilter, "", ""};
   request.fileName = FileNameOf(current);
   request.initialFolder = PathOf(current);
   const auto chosen = dialogs().chooseFile(request);
-  if (!chosen) return;
-  SaveFile(window, fixChosenSaveName(*chosen));
+  if (!chosen) return false;
+  return SaveFile(window, fixChosenSaveName(*chosen));
 }
 
 void MDIForm1::saveAsRich(frmEditor& window) {
@@ -232,7 +240,10 @@ void MDIForm1::rebuildRecentMenus() {
       QAction* action = set.action("mnuRecentFile", i);
       const bool used = i <= static_cast<int>(entries.size());
       action->setVisible(used);
-      if (used) action->setText(q(entries[static_cast<std::size_t>(i - 1)].caption));
+      if (!used) continue;
+      const RecentEntry& entry = entries[static_cast<std::size_t>(i - 1)];
+      action->setText(q(entry.caption));
+      action->setToolTip(q(entry.path));  // the caption may be shortened
     }
   };
   const auto frameEntries = RecentMenuEntries(settings_, false);

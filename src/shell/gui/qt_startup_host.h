@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "shell/startup.h"
 
 class QWidget;

@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 
-#include "shell/history.h"
+#include "workspace/history.h"
 #include "transform/gui/text_bytes.h"
 
 namespace lathwick::gui {

@@ -3,7 +3,7 @@
 // section named after the box (its object name).
 #include <string>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 
 class QComboBox;
 

@@ -4,9 +4,9 @@
 #include <QWidget>
 
 #include "platform/gui/dialogs.h"
-#include "shell/startup.h"
 #include "transform/gui/qt_pass_monitor.h"
 #include "transform/gui/transform_target.h"
+#include "workspace/pass_report.h"
 
 namespace lathwick::gui {
 
@@ -41,19 +41,8 @@ ButtonsHeld::~ButtonsHeld() {
 }
 
 void reportPassOutcome(const PassResult& result) {
-  const std::string caption = result.title.empty() ? std::string(kAppTitle) : result.title;
-  switch (result.outcome) {
-    case PassOutcome::Completed:
-    case PassOutcome::NoInput:
-      return;
-    case PassOutcome::Cancelled:
-    case PassOutcome::Refused:
-      dialogs().message(result.message, caption, Buttons::Ok, Icon::Information);
-      return;
-    case PassOutcome::Failed:
-      dialogs().message(result.message, caption, Buttons::Ok, Icon::Exclamation);
-      return;
-  }
+  const PassReport report = reportOf(result);
+  if (report.shown) dialogs().message(report.text, report.caption, Buttons::Ok, report.icon);
 }
 
 }  // namespace lathwick::gui

@@ -5,7 +5,7 @@
 // "Operate".
 #include <QDialog>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "transform/operation_range.h"
 
 class QComboBox;

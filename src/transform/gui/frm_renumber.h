@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <array>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "transform/operation_range.h"
 
 class QLabel;

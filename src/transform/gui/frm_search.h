@@ -11,7 +11,7 @@
 #include <array>
 #include <string>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 #include "transform/find_next.h"
 #include "transform/operation_range.h"
 

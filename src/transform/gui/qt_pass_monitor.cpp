@@ -23,6 +23,7 @@ QProgressBar* QtPassMonitor::activeBar() const { return form_ ? form_->bar() : b
 
 void QtPassMonitor::progressStart(long total) {
   if (!bar_ && !form_) {
+    focusBefore_ = QApplication::focusWidget();
     form_ = std::make_unique<frmProg>(formParent_);
     form_->setModal(true);
   }
@@ -45,6 +46,8 @@ void QtPassMonitor::progressEnd() {
   if (form_) {
     form_->hide();
     form_.reset();
+    // The keys go back where they were typed before the pass (the document, as a rule).
+    if (focusBefore_) focusBefore_->setFocus(Qt::OtherFocusReason);
   } else if (bar_) {
     bar_->hide();
   }

@@ -48,6 +48,7 @@ class QtPassMonitor : public lathwick::PassMonitor {
   StatusSink status_;
   QWidget* formParent_;
   std::unique_ptr<frmProg> form_;
+  QPointer<QWidget> focusBefore_;  // while the progress form has the keys
   QElapsedTimer sincePump_;
   bool showing_ = false;
 };

@@ -4,7 +4,7 @@
 // each use, so that each reads its settings when it opens and stores them when it closes.
 #include <QPointer>
 
-#include "shell/settings_store.h"
+#include "platform/settings_store.h"
 
 class QWidget;
 

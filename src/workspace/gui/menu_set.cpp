@@ -1,4 +1,4 @@
-#include "shell/gui/menu_set.h"
+#include "workspace/gui/menu_set.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -114,7 +114,11 @@ void MenuSet::refreshAvailability() {
     if (action->isSeparator() || action->menu()) continue;
     const bool available = commands_.has(key.name, key.index);
     action->setEnabled(available && wanted_[action]);
-    action->setToolTip(available ? QString() : QString::fromLatin1(kNotYetAvailable));
+    // Other tooltips (the full path of a recent file) stay.
+    if (!available)
+      action->setToolTip(QString::fromLatin1(kNotYetAvailable));
+    else if (action->toolTip() == QString::fromLatin1(kNotYetAvailable))
+      action->setToolTip(QString());
   }
   for (const auto& [key, action] : actions_) {
     QMenu* submenu = action->menu();

@@ -9,8 +9,8 @@
 #include <span>
 #include <string>
 
-#include "shell/command_dispatch.h"
-#include "shell/menu_tables.h"
+#include "workspace/command_dispatch.h"
+#include "workspace/menu_tables.h"
 
 class QAction;
 class QMenu;

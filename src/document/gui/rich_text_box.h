@@ -27,6 +27,10 @@ enum class FileKind { PlainText, RichText };
 // The ".RTF" rule: a name ending in .RTF (any case) is rich text, anything else plain text.
 FileKind fileKindOf(const std::string& fileName);
 
+// The font a style is shown in: its own, or when that is missing and its family is fixed pitch,
+// the system's fixed-pitch font.
+std::string displayFontName(const StyleFormat& format);
+
 class RichTextBox : public QsciScintilla {
   Q_OBJECT
 
@@ -36,6 +40,7 @@ class RichTextBox : public QsciScintilla {
 
   // ---- text ------------------------------------------------------------------------------
   std::string textBytes() const;
+  std::string_view characterView() const;  // the text in place, valid until the next change
   long textLength() const;
   void setTextBytes(std::string_view text);  // plain text in the default style
 
@@ -76,10 +81,12 @@ class RichTextBox : public QsciScintilla {
   // ---- files ------------------------------------------------------------------------------
   // Both throw AppError when the file cannot be read or written; a failed load leaves the
   // control as it was.
-  void loadFile(const std::string& path, FileKind kind);
+  // `finalBreak` ends a rich text that comes without a line break at its end (a pass's output
+  // has none after its last line), so viewing keeps the break the document had.
+  void loadFile(const std::string& path, FileKind kind, std::string_view finalBreak = {});
   // Work files such as the undo snapshot pass Durability::Scratch: they skip the disk flush.
   void saveFile(const std::string& path, FileKind kind, Durability durability = Durability::Durable) const;
-  void loadRtf(std::string_view rtf);
+  void loadRtf(std::string_view rtf, std::string_view finalBreak = {});
   std::string rtf() const;
   // The styles of a range, one byte per character, and the struck-out ranges (for tests and the
   // writer).
@@ -124,7 +131,6 @@ class RichTextBox : public QsciScintilla {
   void applyIndent();
   unsigned long colourOf(std::uint32_t colour) const;
   std::string styledView(long start, long end, std::string& text, std::vector<TextRange>& strikes) const;
-  std::string_view characterView() const;
   void writeWholeRtf(const std::function<void(std::string_view)>& sink) const;
 
   StyleTable table_;

@@ -1,12 +1,11 @@
 // The document window as the transformation dialogs and passes see it, and the Options menu's
 // plain-text passes (add and remove spaces, junk filter) run from the window.
 #include "document/document_table.h"
+#include "document/gui/editor_host.h"
 #include "document/gui/frm_editor.h"
 #include "document/gui/rich_text_control.h"
 #include "format/pass_frame.h"
 #include "platform/bytes.h"
-#include "shell/gui/mdi_form.h"
-#include "shell/gui/status_panels.h"
 #include "transform/find_next.h"
 #include "transform/junk_filter.h"
 #include "transform/spaces.h"
@@ -20,6 +19,12 @@ long frmEditor::selectionStart() const { return text_->selStart(); }
 std::string frmEditor::selectedText() const { return text_->selText(); }
 long frmEditor::lineFromChar(long position) const { return text_->lineFromChar(static_cast<int>(position)); }
 long frmEditor::lineCount() const { return text_->lineCount(); }
+std::string frmEditor::text() const { return text_->text(); }
+void frmEditor::setSelection(long start, long length) {
+  text_->setSelection(static_cast<int>(start), static_cast<int>(length));
+}
+long frmEditor::lineIndex(long line) const { return text_->lineIndex(static_cast<int>(line)); }
+long frmEditor::lineLength(long line) const { return text_->lineLength(static_cast<int>(line)); }
 
 bool frmEditor::savePlainText(const std::string& path) {
   try {
@@ -34,7 +39,7 @@ void frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
   reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
 }
 
-void frmEditor::setStatusText(const std::string& text) { frame_.statusPanels().setText("Stat", text); }
+void frmEditor::setStatusText(const std::string& text) { frame_.setPanelText("Stat", text); }
 
 PassFrame frmEditor::passFrame() const {
   const SchemeRecord* scheme = frame_.currentSchemeRecord();
@@ -46,8 +51,8 @@ std::string frmEditor::commentStartText() const {
   return scheme ? trimBlanks(scheme->style(0, kCommentStyle).marker) : std::string("(");
 }
 
-std::string frmEditor::inputWorkFile() const { return frame_.values().Temp2File; }
-std::string frmEditor::outputWorkFile() const { return frame_.values().Temp3File; }
+std::string frmEditor::inputWorkFile() const { return frame_.editorFiles().input; }
+std::string frmEditor::outputWorkFile() const { return frame_.editorFiles().output; }
 
 long frmEditor::find(std::string_view text, long start, long end, int flags) {
   const long at = transform::findInText(text_->text(), text, start, end, flags);
@@ -86,7 +91,7 @@ void frmEditor::showPassResult(const transform::PassResult& result) {
 namespace {
 // Runs a plain pass of the window's document from the input to the output work file.
 template <typename Pass>
-transform::PassResult runPass(frmEditor& window, MDIForm1& frame, Pass pass) {
+transform::PassResult runPlainPass(frmEditor& window, EditorHost& frame, Pass pass) {
   if (!window.savePlainText(window.inputWorkFile())) {
     transform::PassResult none;
     none.outcome = transform::PassOutcome::NoInput;
@@ -94,7 +99,7 @@ transform::PassResult runPass(frmEditor& window, MDIForm1& frame, Pass pass) {
   }
   BusyCursor busy;
   frame.setPassRunning(true);
-  QtPassMonitor monitor(nullptr, [&window](const std::string& text) { window.setStatusText(text); }, &frame);
+  QtPassMonitor monitor(nullptr, [&window](const std::string& text) { window.setStatusText(text); }, frame.frameWidget());
   transform::PassResult result = pass(monitor);
   frame.setPassRunning(false);
   return result;
@@ -102,19 +107,30 @@ transform::PassResult runPass(frmEditor& window, MDIForm1& frame, Pass pass) {
 }  // namespace
 
 void frmEditor::AddSpaces() {
-  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
     return transform::runAddSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
   }));
 }
 
 void frmEditor::RemoveSpaces() {
-  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
     return transform::runRemoveSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
   }));
 }
 
+void frmEditor::runPass(DocumentPassKind pass) {
+  switch (pass) {
+    case DocumentPassKind::AddSpaces:
+      return AddSpaces();
+    case DocumentPassKind::RemoveSpaces:
+      return RemoveSpaces();
+    case DocumentPassKind::JunkFilter:
+      return JunkFilter();
+  }
+}
+
 void frmEditor::JunkFilter() {
-  showPassResult(runPass(*this, frame_, [this](PassMonitor& monitor) {
+  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
     return transform::runJunkFilter(inputWorkFile(), outputWorkFile(), monitor);
   }));
 }

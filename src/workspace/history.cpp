@@ -1,8 +1,8 @@
-#include "shell/history.h"
+#include "workspace/history.h"
 
 #include "document/paths.h"
 #include "platform/bytes.h"
-#include "shell/settings_table.h"
+#include "platform/settings_table.h"
 
 namespace lathwick {
 

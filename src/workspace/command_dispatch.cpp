@@ -1,4 +1,4 @@
-#include "shell/command_dispatch.h"
+#include "workspace/command_dispatch.h"
 
 namespace lathwick {
 

@@ -1,7 +1,8 @@
-#include "platform/gui/rich_text_box.h"
+#include "document/gui/rich_text_box.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QFontDatabase>
 #include <QMetaObject>
 #include <QMouseEvent>
 #include <QPainter>
@@ -58,6 +59,14 @@ QCursor makeIndentPointer() {
 }
 }  // namespace
 
+std::string displayFontName(const StyleFormat& format) {
+  // The system would stand in a proportional font for a missing one, which breaks the columns
+  // of a program; a font whose family is fixed pitch gets the system's fixed-pitch font instead.
+  const QString family = QString::fromLatin1(format.fontName.c_str());
+  if (!format.fixedPitch || QFontDatabase::hasFamily(family)) return format.fontName;
+  return QFontDatabase::systemFont(QFontDatabase::FixedFont).family().toStdString();
+}
+
 FileKind fileKindOf(const std::string& fileName) {
   return endsWithIgnoreCase(fileName, ".RTF") ? FileKind::RichText : FileKind::PlainText;
 }
@@ -67,6 +76,7 @@ RichTextBox::RichTextBox(QWidget* parent)
       styleApplied_(StyleTable::kStyleCount, false),
       indentPointer_(makeIndentPointer()) {
   defaultFormat_.fontName = "Courier New";
+  defaultFormat_.fixedPitch = true;
   setUtf8(false);
   SendScintilla(SCI_SETLEXER, SCLEX_CONTAINER);
   // Only the notifications before a change: the ones after it make QScintilla recount the text.
@@ -199,7 +209,7 @@ void RichTextBox::setDefaultFormat(const StyleFormat& format, int indentTwips) {
 void RichTextBox::defineStyle(int style) {
   const StyleFormat& f = style == STYLE_DEFAULT ? defaultFormat_ : table_.format(style);
   const auto s = static_cast<uintptr_t>(style);
-  SendScintilla(SCI_STYLESETFONT, s, f.fontName.c_str());
+  SendScintilla(SCI_STYLESETFONT, s, displayFontName(f).c_str());
   SendScintilla(SCI_STYLESETSIZEFRACTIONAL, s, static_cast<long>(f.halfPoints) * 50);
   SendScintilla(SCI_STYLESETFORE, s, static_cast<long>(colourOf(f.colour)));
   SendScintilla(SCI_STYLESETBACK, s, static_cast<long>(background_.red() | (background_.green() << 8) |
@@ -358,19 +368,24 @@ void RichTextBox::replaceAllText(std::string_view text, DocumentStyling styling)
   emit textModified();
 }
 
-void RichTextBox::loadRtf(std::string_view rtf) {
-  const RtfDocument doc = readRtf(rtf);
+void RichTextBox::loadRtf(std::string_view rtf, std::string_view finalBreak) {
+  RtfDocument doc = readRtf(rtf);
   resetStyles();
   DocumentStyling styling = styleDocument(doc, table_);
+  const bool endsInBreak = !doc.text.empty() && (doc.text.back() == '\n' || doc.text.back() == '\r');
+  if (!finalBreak.empty() && !doc.text.empty() && !endsInBreak) {
+    doc.text += finalBreak;
+    if (!styling.styles.empty()) styling.styles.append(finalBreak.size(), styling.styles.back());
+  }
   indentTwips_ = doc.indentTwips;
   applyIndent();
   replaceAllText(doc.text, std::move(styling));
 }
 
-void RichTextBox::loadFile(const std::string& path, FileKind kind) {
+void RichTextBox::loadFile(const std::string& path, FileKind kind, std::string_view finalBreak) {
   const SourceFile file(path);
   if (kind == FileKind::RichText) {
-    loadRtf(file.bytes());
+    loadRtf(file.bytes(), finalBreak);
   } else {
     setTextBytes(file.bytes());
   }

@@ -1,4 +1,4 @@
-#include "shell/settings_table.h"
+#include "platform/settings_table.h"
 
 #include "platform/bytes.h"
 #include "platform/vb_convert.h"

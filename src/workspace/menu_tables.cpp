@@ -1,4 +1,4 @@
-#include "shell/menu_tables.h"
+#include "workspace/menu_tables.h"
 
 #include <array>
 

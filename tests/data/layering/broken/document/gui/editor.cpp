@@ -1,0 +1,1 @@
+#include "shell/gui/mdi_form.h"

@@ -1,0 +1,1 @@
+#include "transform/pass_result.h"

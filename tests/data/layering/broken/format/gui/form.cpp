@@ -1,0 +1,2 @@
+#include <QWidget>
+#include "shell/startup.h"

@@ -1,0 +1,3 @@
+#include <QWidget>
+#include "workspace/workspace.h"
+#include "platform/bytes.h"

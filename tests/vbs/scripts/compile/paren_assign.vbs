@@ -1,0 +1,2 @@
+Dim x
+(x) = 1   ' expect error 1002
