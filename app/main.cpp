@@ -2,20 +2,29 @@
 #include <QApplication>
 #include <QPointer>
 #include <QTimer>
+#include <cstdio>
 
 #include "document/document_table.h"
 #include "document/gui/frm_editor.h"
 #include "platform/gui/command_guard.h"
+#include "shell/gui/frame_look.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
 int main(int argc, char** argv) {
   lathwick::gui::GuardedApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
+  QApplication::setApplicationVersion(QStringLiteral(LATHWICK_VERSION_TEXT));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.lathwick.Lathwick"));
+  lathwick::gui::useFallbackIconTheme();
 
   // "--quit-after-start" lets tests and scripts check that start-up completes;
   // "--screenshot FILE" saves a picture of the main window once it is up, then quits.
   QStringList args = QApplication::arguments();
+  if (args.contains(QStringLiteral("--version"))) {
+    std::printf("lathwick %s\n", LATHWICK_VERSION_TEXT);
+    return 0;
+  }
   const bool quitAfterStart = args.removeAll(QStringLiteral("--quit-after-start")) > 0;
   QString screenshot;
   if (const auto at = args.indexOf(QStringLiteral("--screenshot")); at > 0 && at + 1 < args.size()) {

@@ -50,7 +50,8 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
 // Record n with its fragments rebuilt, ready to be the current scheme.
 SchemeRecord loadScheme(const std::string& dataFile, long n);
 
-// "Lathwick.dat" beside the running executable: the bundled data file of the batch tool.
+// The bundled data file of the batch tool: "Lathwick.dat" beside the running executable, or in
+// the installed data folder when the executable has none beside it.
 std::string bundledDataFilePath();
 
 // Copies every record except n into tempFile and gives it the data file's name. Nothing changes

@@ -91,4 +91,14 @@ long long fileSize(const std::string& path) {
   return ec ? -1 : static_cast<long long>(size);
 }
 
+bool isWritableFolder(const std::string& path) {
+  std::error_code ec;
+  const fs::path folder(nativePath(path));
+  const fs::file_status st = fs::status(folder, ec);
+  if (ec || !fs::is_directory(st)) return false;
+  const auto writeBits = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if ((st.permissions() & writeBits) == fs::perms::none) return false;
+  return ::access(folder.c_str(), W_OK) == 0;
+}
+
 }  // namespace lathwick

@@ -17,5 +17,9 @@ std::optional<std::string> readWholeFile(const std::string& path);
 bool removeFile(const std::string& path);          // true when it is gone afterwards
 bool copyFile(const std::string& from, const std::string& to);  // atomic at the destination
 long long fileSize(const std::string& path);       // -1 when it cannot be read
+// True when files can be made in the folder: the system allows it and the folder's own
+// permissions give someone write access, so a folder made read-only counts as read-only even
+// for the administrator, who could write there anyway.
+bool isWritableFolder(const std::string& path);
 
 }  // namespace lathwick

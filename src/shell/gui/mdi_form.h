@@ -27,6 +27,10 @@ class QToolButton;
 
 namespace lathwick::gui {
 
+// The Settings menu's entries that show a check mark for their state.
+inline constexpr const char* kSettingToggles[] = {"mnuToolbar", "mnuToolbarText", "mnuStatus", "mnuLineNumbers",
+                                                  "mnuAuto"};
+
 class frmEditor;
 class MenuSet;
 class TransformDialogs;
@@ -80,6 +84,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   StatusPanels& statusPanels() const { return *panels_; }
   LastSelection& lastSelection() override { return lastSelection_; }
   bool autoFormat() const { return autoFormat_; }
+  bool lineNumbers() const { return lineNumbers_; }
+  bool toolbarText() const;
   int currentScheme() const override { return currentScheme_; }
   void setCurrentScheme(std::int16_t scheme) override { currentScheme_ = scheme; }
   const std::string& lastPath() const { return lastPath_; }
@@ -150,6 +156,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void setToolbarVisible(bool visible);
   void setStatusVisible(bool visible);
   void setAutoFormat(bool on);
+  void setLineNumbers(bool on);
+  void setToolbarText(bool on);
   void syncSettingChecks();
   void onBookmark(int number, Qt::MouseButton button);
   frmEditor* createWindow(int index);
@@ -176,6 +184,7 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   std::vector<std::string> recentPaths_;  // the path behind each recent menu entry, 1-based
   std::string lastPath_;
   bool autoFormat_ = false;
+  bool lineNumbers_ = true;
   std::int16_t currentScheme_ = 1;
   bool dataFileProblemShown_ = false;
   bool passRunning_ = false;

@@ -52,6 +52,8 @@ void MDIForm1::registerFrameCommands() {
   commands_.add("mnuToolbar", [this](int) { setToolbarVisible(!toolbar_->isVisible()); });
   commands_.add("mnuStatus", [this](int) { setStatusVisible(!statusBar()->isVisible()); });
   commands_.add("mnuAuto", [this](int) { setAutoFormat(!autoFormat_); });
+  commands_.add("mnuLineNumbers", [this](int) { setLineNumbers(!lineNumbers_); });
+  commands_.add("mnuToolbarText", [this](int) { setToolbarText(!toolbarText()); });
   commands_.add("mnuContents", [this](int) { showHelp(); });
   commands_.add("mnuAbout", [this](int) {
     dialogs().message(values_.VersionText, std::string("About ") + kAppTitle, Buttons::Ok, Icon::Information);

@@ -11,6 +11,7 @@
 #include "platform/errors.h"
 #include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
 #include "platform/app_names.h"
@@ -55,6 +56,7 @@ bool excludeCommentsSetting(const SettingsStore& settings) {
 }  // namespace
 
 frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "operate.html");
   setObjectName("frmOperate");
   setWindowTitle("Operate");
   setWindowModality(Qt::ApplicationModal);

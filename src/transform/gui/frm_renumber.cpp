@@ -15,6 +15,7 @@
 #include "platform/errors.h"
 #include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
 #include "platform/app_names.h"
@@ -51,6 +52,7 @@ std::int32_t wholeNumber(const QString& text) {
 }  // namespace
 
 frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "renumber.html");
   setObjectName("frmRenumber");
   setWindowTitle("Renumber File");
   setWindowModality(Qt::ApplicationModal);

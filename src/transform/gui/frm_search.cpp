@@ -12,6 +12,7 @@
 #include "platform/errors.h"
 #include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "workspace/history.h"
 #include "platform/settings_table.h"
@@ -62,6 +63,7 @@ QComboBox* historyBox(QWidget* parent, const char* name) {
 }  // namespace
 
 frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "search.html");
   setObjectName("frmSearch");
   setWindowTitle("Search And Replace");
   setWindowModality(Qt::ApplicationModal);
