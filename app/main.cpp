@@ -9,16 +9,25 @@
 #include "extend/vbscript/console_host.h"
 #include "platform/file_system.h"
 #include "shell/gui/frame_scripts.h"
+#include "platform/gui/command_guard.h"
+#include "shell/gui/frame_look.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+  lathwick::gui::GuardedApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
+  QApplication::setApplicationVersion(QStringLiteral(LATHWICK_VERSION_TEXT));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.lathwick.Lathwick"));
+  lathwick::gui::useFallbackIconTheme();
 
   // "--quit-after-start" lets tests and scripts check that start-up completes;
   // "--screenshot FILE" saves a picture of the main window once it is up, then quits.
   QStringList args = QApplication::arguments();
+  if (args.contains(QStringLiteral("--version"))) {
+    std::printf("lathwick %s\n", LATHWICK_VERSION_TEXT);
+    return 0;
+  }
   const bool quitAfterStart = args.removeAll(QStringLiteral("--quit-after-start")) > 0;
   // "--macro SCRIPT" runs the script's Sub Main once the editor is up (with the file named on
   // the command line open), then closes without asking: exit status 1 after a script error.

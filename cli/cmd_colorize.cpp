@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "pass_input.h"
 #include "format/colorizer.h"
+#include "file_args.h"
 #include "format/scheme_data_file.h"
 #include "options.h"
 #include "platform/errors.h"
@@ -12,14 +13,12 @@
 namespace lathwick::cli {
 
 int cmdColorize(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({{"--view", true, true}}), 2, "IN OUT");
+  const ParsedArgs p = parseFileCommand(args, withSchemeOptions({{"--view", true, true}}), "IN OUT");
   const std::string viewName = *p.value("--view");
   if (viewName != "modes" && viewName != "codes")
     throw UsageError("option --view needs modes or codes, not '" + viewName + "'");
   const ColorizeView view = viewName == "modes" ? ColorizeView::Modes : ColorizeView::Codes;
   const long n = parseInteger("--scheme", p.valueOr("--scheme", "1"));
-  const std::string& in = p.positionals()[0];
-  const std::string& out = p.positionals()[1];
 
   SchemeRecord scheme;
   try {
@@ -29,17 +28,20 @@ int cmdColorize(const Args& args) {
     return kExitRefused;
   }
   const auto comment = p.value("--comment");
-  const PassInput input(in);
-  const ColorizeResult r = colorizeFile(scheme, view, input.path(), out, silentMonitor(), comment ? &*comment : nullptr);
-  switch (r.outcome) {
-    case ColorizeOutcome::Done: return kExitOk;
-    case ColorizeOutcome::NoInput:
-      std::fprintf(stderr, "%s: %s\n", in.c_str(), makeError(err::kFileNotFound).what());
-      return kExitRefused;
-    default:
-      std::fprintf(stderr, "%s\n", r.message().c_str());
-      return kExitRefused;
-  }
+  return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);
+    const ColorizeResult r =
+        colorizeFile(scheme, view, input.path(), job.out, silentMonitor(), comment ? &*comment : nullptr);
+    switch (r.outcome) {
+      case ColorizeOutcome::Done: return kExitOk;
+      case ColorizeOutcome::NoInput:
+        std::fprintf(stderr, "%s: %s\n", job.name.c_str(), makeError(err::kFileNotFound).what());
+        return kExitRefused;
+      default:
+        std::fprintf(stderr, "%s%s\n", job.countPrefix.c_str(), r.message().c_str());
+        return kExitRefused;
+    }
+  });
 }
 
 }  // namespace lathwick::cli

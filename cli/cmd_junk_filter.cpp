@@ -7,9 +7,10 @@
 namespace lathwick::cli {
 
 int cmdJunkFilter(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, {}, 2, "IN and OUT");
-  const std::string& in = p.positionals()[0];
-  return finishPass(transform::runJunkFilter(in, p.positionals()[1], silentMonitor()), false, in);
+  const ParsedArgs p = parseFileCommand(args, {}, "IN and OUT");
+  return forEachFile(p, [](const FileJob& job) {
+    return finishPass(transform::runJunkFilter(job.in, job.out, silentMonitor()), false, job);
+  });
 }
 
 }  // namespace lathwick::cli

@@ -1,27 +1,39 @@
-// operate --address XYZ --operator '*' --value V --format PICTURE: arithmetic on the values of
-// the chosen addresses over the range, each new value formatted and marked.
+// operate [--address XYZ] [--operator '*'] [--value V] [--format PICTURE]: arithmetic on the
+// values of the chosen addresses over the range, each new value formatted and marked. An option
+// left out takes the operate dialog's default: "XYZ", "*", 1, "##0.0###".
 #include <cstdio>
 
 #include "commands.h"
 #include "pass_input.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
+#include "platform/settings_table.h"
 #include "transform/numeric_picture.h"
 #include "transform/operate.h"
 #include "transform_common.h"
 
 namespace lathwick::cli {
 
+namespace {
+// What the dialog shows when it opens on a fresh settings file.
+transform::OperateEntries dialogDefaults() {
+  const transform::OperateRequest fresh;
+  return {settingDefault(kOperate, "Address"), settingDefault(kOperate, "Operators"),
+          singleText(fresh.operand), fresh.format};
+}
+}  // namespace
+
 int cmdOperate(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args,
-                                         withRangeOption({{"--address", true, true},
-                                                          {"--operator", true, true},
-                                                          {"--value", true, true},
-                                                          {"--format", true, true},
-                                                          {"--exclude-comments", false, false}}),
-                                         2, "IN and OUT");
-  transform::OperateEntries entries{*p.value("--address"), *p.value("--operator"), *p.value("--value"),
-                                    *p.value("--format")};
+  const ParsedArgs p = parseFileCommand(args,
+                                        withRangeOption({{"--address", true, false},
+                                                         {"--operator", true, false},
+                                                         {"--value", true, false},
+                                                         {"--format", true, false},
+                                                         {"--exclude-comments", false, false}}),
+                                        "IN and OUT");
+  const transform::OperateEntries defaults = dialogDefaults();
+  transform::OperateEntries entries{p.valueOr("--address", defaults.address), p.valueOr("--operator", defaults.op),
+                                    p.valueOr("--value", defaults.value), p.valueOr("--format", defaults.format)};
   // What the dialog's boxes would never let through is a usage error here; what they would
   // (empty boxes, "/" with zero) gets the dialog's own messages.
   if (entries.op.size() != 1 || std::string("*+-/").find(entries.op) == std::string::npos)
@@ -53,9 +65,10 @@ int cmdOperate(const Args& args) {
   req.range = rangeFromOptions(p);
   req.displayLineCount = 0;
   const transform::RichTextFrame frame = frameFromOptions(p);
-  const std::string& in = p.positionals()[0];
-  const PassInput input(in);  // rich OUTs end their lines with CR LF whatever IN had
-  return finishPass(transform::runOperate(input.path(), p.positionals()[1], req, frame, silentMonitor()), true, in);
+  return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
+    return finishPass(transform::runOperate(input.path(), job.out, req, frame, silentMonitor()), true, job);
+  });
 }
 
 }  // namespace lathwick::cli

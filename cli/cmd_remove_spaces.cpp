@@ -7,13 +7,13 @@
 namespace lathwick::cli {
 
 int cmdRemoveSpaces(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({}), 2, "IN and OUT");
-  const std::string& in = p.positionals()[0];
-  const std::string& out = p.positionals()[1];
-  const PassInput input(in);
-  return finishPass(
-      input.plainOut(transform::runRemoveSpaces(input.path(), out, commentStartFromOptions(p), silentMonitor()), out),
-      false, in);
+  const ParsedArgs p = parseFileCommand(args, withSchemeOptions({}), "IN and OUT");
+  const std::string commentStart = commentStartFromOptions(p);
+  return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);
+    return finishPass(input.plainOut(transform::runRemoveSpaces(input.path(), job.out, commentStart, silentMonitor()), job.out),
+                      false, job);
+  });
 }
 
 }  // namespace lathwick::cli

@@ -1,18 +1,26 @@
-// renumber --start S --increment I --char N --skip CHARS --method 0|1|2: new sequence numbers
-// over the range, written as plain text.
+// renumber [--start S] [--increment I] [--char N] [--skip CHARS] [--method 0|1|2]
+// [--keep-references]: new sequence numbers over the range, written as plain text. An option left
+// out takes the renumber dialog's default (start 100, increment 1, "N", skip "%", method 2: all
+// non-comment lines); with --keep-references the words that name a renumbered block follow it.
 #include "commands.h"
 #include "pass_input.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
 #include "platform/vb_convert.h"
+#include "platform/settings_table.h"
 #include "transform/renumber.h"
 #include "transform_common.h"
 
 namespace lathwick::cli {
 
 namespace {
-std::int32_t wholeNumber(const ParsedArgs& p, const char* option) {
-  const std::string text = *p.value(option);
+// The option's value, or the dialog's default from the settings table.
+std::string valueOrDialogDefault(const ParsedArgs& p, const char* option, const char* key) {
+  return p.valueOr(option, settingDefault(kNumbering, key));
+}
+
+std::int32_t wholeNumber(const ParsedArgs& p, const char* option, const char* key) {
+  const std::string text = valueOrDialogDefault(p, option, key);
   try {
     return toInt32(text);  // rounded as the dialog rounds its entries
   } catch (const AppError&) {
@@ -22,28 +30,31 @@ std::int32_t wholeNumber(const ParsedArgs& p, const char* option) {
 }  // namespace
 
 int cmdRenumber(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args,
-                                         withRangeOption({{"--start", true, true},
-                                                          {"--increment", true, true},
-                                                          {"--char", true, true},
-                                                          {"--skip", true, true},
-                                                          {"--method", true, true}}),
-                                         2, "IN and OUT");
+  const ParsedArgs p = parseFileCommand(args,
+                                        withRangeOption({{"--start", true, false},
+                                                         {"--increment", true, false},
+                                                         {"--char", true, false},
+                                                         {"--skip", true, false},
+                                                         {"--method", true, false},
+                                                         {"--keep-references", false, false}}),
+                                        "IN and OUT");
   transform::RenumberRequest req;
-  req.start = wholeNumber(p, "--start");
-  req.increment = wholeNumber(p, "--increment");
-  const std::string method = *p.value("--method");
+  req.start = wholeNumber(p, "--start", "Start");
+  req.increment = wholeNumber(p, "--increment", "Increment");
+  const std::string method = valueOrDialogDefault(p, "--method", "Method");
   if (method.size() != 1 || method[0] < '0' || method[0] > '2')
     throw UsageError("option --method needs 0, 1 or 2, not '" + method + "'");
   req.method = static_cast<transform::RenumberMethod>(method[0] - '0');
-  req.sequenceText = *p.value("--char");
-  req.skipCharacters = *p.value("--skip");
+  req.sequenceText = valueOrDialogDefault(p, "--char", "Character");
+  req.skipCharacters = valueOrDialogDefault(p, "--skip", "SkipLines");
   req.range = rangeFromOptions(p);
-  const std::string& in = p.positionals()[0];
+  req.updateReferences = p.flag("--keep-references");
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);
-  const std::string& out = p.positionals()[1];
-  const PassInput input(in);
-  return finishPass(input.plainOut(transform::runRenumber(input.path(), out, req, silentMonitor()), out), false, in);
+  return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);
+    return finishPass(input.plainOut(transform::runRenumber(input.path(), job.out, req, silentMonitor()), job.out),
+                      false, job);
+  });
 }
 
 }  // namespace lathwick::cli

@@ -6,12 +6,13 @@
 namespace lathwick::cli {
 
 int cmdReplace(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, searchOptionSpecs(true), 2, "IN and OUT");
+  const ParsedArgs p = parseFileCommand(args, searchOptionSpecs(true), "IN and OUT");
   const transform::SearchRequest req = searchRequestFrom(p);
   const transform::RichTextFrame frame = frameFromOptions(p);
-  const std::string& in = p.positionals()[0];
-  const PassInput input(in);  // rich OUTs end their lines with CR LF whatever IN had
-  return finishPass(transform::runReplaceAll(input.path(), p.positionals()[1], req, frame, silentMonitor()), true, in);
+  return forEachFile(p, [&](const FileJob& job) {
+    const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
+    return finishPass(transform::runReplaceAll(input.path(), job.out, req, frame, silentMonitor()), true, job);
+  });
 }
 
 }  // namespace lathwick::cli

@@ -1,4 +1,5 @@
-// scheme list|header|dump: the records of a scheme data file as the editor reads them.
+// scheme list|header|dump: the records of a scheme data file as the editor reads them; the
+// editing actions are in cmd_scheme_edit.cpp.
 #include <cstdio>
 #include <string>
 
@@ -25,10 +26,20 @@ int listSchemes(const std::string& dataFile) {
 }  // namespace
 
 int cmdScheme(const Args& args) {
-  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions({}), 1, "list, header or dump");
+  const ParsedArgs p = ParsedArgs::parse(args, withSchemeOptions(schemeEditOptions()), -1, "ACTION");
+  if (p.positionals().empty()) throw UsageError("missing ACTION: list, header, dump, new, copy, set or delete");
   const std::string action = p.positionals().front();
+  if (action == "new" || action == "copy" || action == "set" || action == "delete") {
+    try {
+      return editScheme(p);
+    } catch (const DataFileProblem& e) {
+      std::fprintf(stderr, "%s\n", e.what());
+      return kExitRefused;
+    }
+  }
   if (action != "list" && action != "header" && action != "dump")
-    throw UsageError("unknown action '" + action + "': expected list, header or dump");
+    throw UsageError("unknown action '" + action + "': expected list, header, dump, new, copy, set or delete");
+  if (p.positionals().size() != 1) throw UsageError("scheme " + action + " takes no argument");
   const std::string dataFile = p.valueOr("--data", bundledDataFilePath());
   const long n = parseInteger("--scheme", p.valueOr("--scheme", "1"));
   if (action == "list") return listSchemes(dataFile);

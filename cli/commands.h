@@ -20,6 +20,18 @@ int cmdScheme(const Args& args);
 int cmdRtfText(const Args& args);
 int cmdRun(const Args& args);
 int cmdMacro(const Args& args);
+int cmdSendTo(const Args& args);
+int cmdSnippets(const Args& args);
+int cmdPrint(const Args& args);
+
+// scheme new|copy|set|delete and the options they take.
+class ParsedArgs;
+struct OptionSpec;
+std::vector<OptionSpec> schemeEditOptions();
+int editScheme(const ParsedArgs& parsed);
+int cmdToolpath(const Args& args);
+int cmdBounds(const Args& args);
+int cmdVerify(const Args& args);
 
 // For subcommands whose engine is not built yet: says so on stderr and exits 1.
 int notAvailable(const char* name);

@@ -70,22 +70,27 @@ transform::SearchRequest searchRequestFrom(const ParsedArgs& args) {
 }
 
 int finishPass(const PassResult& result, bool printCount, const std::string& inPath) {
+  return finishPass(result, printCount, FileJob{inPath, "", inPath, stdout, ""});
+}
+
+int finishPass(const PassResult& result, bool printCount, const FileJob& job) {
+  const char* prefix = job.countPrefix.c_str();
   switch (result.outcome) {
     case PassOutcome::Completed:
-      if (printCount) std::printf("%s\n", result.statusLabel.c_str());
+      if (printCount) std::fprintf(job.countStream, "%s%s\n", prefix, result.statusLabel.c_str());
       return kExitOk;
     case PassOutcome::NoInput:
-      std::fprintf(stderr, "%s: %s\n", result.errorDescription.c_str(), inPath.c_str());
+      std::fprintf(stderr, "%s: %s\n", result.errorDescription.c_str(), job.name.c_str());
       return kExitRefused;
     case PassOutcome::Failed:
-      std::fprintf(stderr, "%s\n", result.message.c_str());
+      std::fprintf(stderr, "%s%s\n", prefix, result.message.c_str());
       // The plain passes' texts do not say what went wrong; the runtime error does.
       if (result.message.find(result.errorDescription) == std::string::npos)
         std::fprintf(stderr, "(error %d: %s)\n", result.errorNumber, result.errorDescription.c_str());
       return kExitRefused;
     case PassOutcome::Refused:
     case PassOutcome::Cancelled:
-      std::fprintf(stderr, "%s\n", result.message.c_str());
+      std::fprintf(stderr, "%s%s\n", prefix, result.message.c_str());
       return kExitRefused;
   }
   return kExitRefused;

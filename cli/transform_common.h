@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "file_args.h"
 #include "options.h"
 #include "transform/operation_range.h"
 #include "transform/pass_result.h"
@@ -35,5 +36,8 @@ transform::SearchRequest searchRequestFrom(const ParsedArgs& args);
 
 // Prints the count line (when `printCount`) or the message, and gives the exit status.
 int finishPass(const transform::PassResult& result, bool printCount, const std::string& inPath);
+// The same for one job of forEachFile: the count line goes where the job says, and with
+// --in-place the count and the message start with the file's name.
+int finishPass(const transform::PassResult& result, bool printCount, const FileJob& job);
 
 }  // namespace lathwick::cli

@@ -32,15 +32,12 @@ void appendHex(std::string& out, unsigned char b) {
   out += kDigits[b & 15];
 }
 
-// The family keyword of each font table entry: fixed-pitch fonts say so (when any format with
-// that font name says so), so that a reader without the font can stand in a fixed-pitch one.
-std::map<std::string, std::string> familyKeywords(const StyleTable& table) {
-  std::map<std::string, bool> fixed{{table.defaultFormat().fontName, table.defaultFormat().fixedPitch}};
-  for (int s : table.styles()) fixed[table.format(s).fontName] |= table.format(s).fixedPitch;
-  std::map<std::string, std::string> keywords;
-  for (const auto& [name, isFixed] : fixed) keywords[name] = isFixed ? "\\fmodern" : "\\fnil";
-  return keywords;
-}
+// A font table entry is a name and its pitch: fixed-pitch fonts say so with their family keyword,
+// so that a reader without the font can stand in a fixed-pitch one. The same name with both
+// pitches gets two entries, so that a document reads back exactly as it was.
+using FontKey = std::pair<std::string, bool>;
+
+std::string fontEntry(int number, const FontKey& font);
 
 // A font name as a font table entry: the RTF specials escaped, ";" (which ends the entry) left
 // out, characters outside ASCII as \'hh.
@@ -60,26 +57,31 @@ std::string fontEntryName(const std::string& name) {
   return out;
 }
 
+std::string fontEntry(int number, const FontKey& font) {
+  std::string entry = "{\\f";
+  appendNumber(entry, number);
+  entry += font.second ? "\\fmodern " : "\\fnil ";
+  return entry + fontEntryName(font.first) + ";}";
+}
+
 // The header and the attribute string of every style of the table.
 struct Tables {
   std::string header;
   std::vector<std::string> attributes;  // by style number
 
   Tables(const StyleTable& table, int indentTwips) : attributes(StyleTable::kStyleCount) {
-    std::map<std::string, int> fonts{{table.defaultFormat().fontName, 0}};
+    const FontKey defaultFont{table.defaultFormat().fontName, table.defaultFormat().fixedPitch};
+    std::map<FontKey, int> fonts{{defaultFont, 0}};
     std::map<std::uint32_t, int> colours;
-    std::map<std::string, std::string> family = familyKeywords(table);
-    std::string fontTable = "{\\fonttbl{\\f0" + family[table.defaultFormat().fontName] + " " +
-                            fontEntryName(table.defaultFormat().fontName) + ";}";
+    std::string fontTable = "{\\fonttbl" + fontEntry(0, defaultFont);
     std::string colourTable = "{\\colortbl;";
     for (int s : table.styles()) {
       const StyleFormat& f = table.format(s);
-      auto font = fonts.find(f.fontName);
+      const FontKey key{f.fontName, f.fixedPitch};
+      auto font = fonts.find(key);
       if (font == fonts.end()) {
-        font = fonts.emplace(f.fontName, static_cast<int>(fonts.size())).first;
-        fontTable += "{\\f";
-        appendNumber(fontTable, font->second);
-        fontTable += family[f.fontName] + " " + fontEntryName(f.fontName) + ";}";
+        font = fonts.emplace(key, static_cast<int>(fonts.size())).first;
+        fontTable += fontEntry(font->second, key);
       }
       int colour = 0;
       if (f.colour != kAutoColour) {

@@ -8,6 +8,7 @@
 #include "platform/bytes.h"
 #include "platform/file_system.h"
 #include "platform/app_names.h"
+#include "platform/install_layout.h"
 
 namespace lathwick {
 
@@ -73,9 +74,15 @@ SchemeRecord loadScheme(const std::string& dataFile, long n) {
   return r;
 }
 
-std::string bundledDataFilePath() { return executableFolder() + "/" + kDataFileName; }
+std::string bundledDataFilePath() {
+  const std::string beside = executableFolder() + "/" + kDataFileName;
+  if (isRegularFile(beside)) return beside;
+  const std::string installed = installedDataFolder(executableFolder()) + kDataFileName;
+  return isRegularFile(installed) ? installed : beside;
+}
 
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record) {
+  if (isReadOnlyFile(dataFile)) throw DataFileProblem(err::kPermissionDenied);
   std::string bytes;
   if (isRegularFile(dataFile)) {
     auto existing = readWholeFile(dataFile);
@@ -95,6 +102,7 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
 }
 
 void removeSchemeRecord(const std::string& dataFile, const std::string& tempFile, long n) {
+  if (isReadOnlyFile(dataFile)) throw DataFileProblem(err::kPermissionDenied);
   const auto bytes = readWholeFile(dataFile);
   if (!bytes) throw DataFileProblem(err::kFileNotFound);
   const long count = countOf(static_cast<long long>(bytes->size()));

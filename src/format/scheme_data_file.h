@@ -44,12 +44,14 @@ SchemeList loadSchemeList(const std::string& dataFile, long rememberedRecord);
 SchemeRecord readSchemeRecord(const std::string& dataFile, long n);
 
 // Writes the record as record n (1 to count + 1), rewriting the file through a temporary file.
+// A data file marked read-only is left alone (DataFileProblem), as is one that cannot be read.
 void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& record);
 
 // Record n with its fragments rebuilt, ready to be the current scheme.
 SchemeRecord loadScheme(const std::string& dataFile, long n);
 
-// "Lathwick.dat" beside the running executable: the bundled data file of the batch tool.
+// The bundled data file of the batch tool: "Lathwick.dat" beside the running executable, or in
+// the installed data folder when the executable has none beside it.
 std::string bundledDataFilePath();
 
 // Copies every record except n into tempFile and gives it the data file's name. Nothing changes

@@ -32,6 +32,14 @@ bool isRegularFile(const std::string& path) {
   return fs::is_regular_file(nativePath(path), ec);
 }
 
+bool isReadOnlyFile(const std::string& path) {
+  std::error_code ec;
+  const fs::file_status status = fs::status(nativePath(path), ec);
+  if (ec || !fs::is_regular_file(status)) return false;
+  const auto write = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return (status.permissions() & write) == fs::perms::none;
+}
+
 bool isDirectory(const std::string& path) {
   std::error_code ec;
   return fs::is_directory(nativePath(path), ec);
@@ -81,6 +89,16 @@ long long fileSize(const std::string& path) {
   std::error_code ec;
   const auto size = fs::file_size(nativePath(path), ec);
   return ec ? -1 : static_cast<long long>(size);
+}
+
+bool isWritableFolder(const std::string& path) {
+  std::error_code ec;
+  const fs::path folder(nativePath(path));
+  const fs::file_status st = fs::status(folder, ec);
+  if (ec || !fs::is_directory(st)) return false;
+  const auto writeBits = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if ((st.permissions() & writeBits) == fs::perms::none) return false;
+  return ::access(folder.c_str(), W_OK) == 0;
 }
 
 }  // namespace lathwick

@@ -10,9 +10,16 @@ std::string nativePath(std::string_view path);   // every "\" becomes "/"
 std::string executableFolder();                    // without a trailing separator
 bool isRegularFile(const std::string& path);       // follows links; folders are not files
 bool isDirectory(const std::string& path);
+// True when the file is there and marked read-only (no write permission for anyone), which the
+// program respects even where the system would let it write.
+bool isReadOnlyFile(const std::string& path);
 std::optional<std::string> readWholeFile(const std::string& path);
 bool removeFile(const std::string& path);          // true when it is gone afterwards
 bool copyFile(const std::string& from, const std::string& to);  // atomic at the destination
 long long fileSize(const std::string& path);       // -1 when it cannot be read
+// True when files can be made in the folder: the system allows it and the folder's own
+// permissions give someone write access, so a folder made read-only counts as read-only even
+// for the administrator, who could write there anyway.
+bool isWritableFolder(const std::string& path);
 
 }  // namespace lathwick

@@ -5,13 +5,15 @@
 
 namespace lathwick {
 
-const std::array<SettingRow, 25> kSettingsTable = {{
+const std::array<SettingRow, 28> kSettingsTable = {{
     {"Startup", "app_path", "", "application folder"},
     {"Startup", "record", "1", "current scheme number"},
     {"Startup", "LastPath", nullptr, "folder shown first by the file dialogs (the executable's folder)"},
     {"Startup", "Toolbar", "True", "toolbar visible"},
     {"Startup", "Status", "True", "status bar visible"},
     {"Startup", "Auto", "False", "auto format on"},
+    {"Startup", "LineNumbers", "True", "line-number margin of the documents shown"},
+    {"Startup", "ToolbarText", "False", "toolbar buttons show their names under the icons"},
     {"Startup", "WindowState", "0", "main window state: 0 normal, 1 minimised, 2 maximised"},
     {"Startup", "left", "50", "main window left in twips"},
     {"Startup", "top", "50", "main window top in twips"},
@@ -28,6 +30,7 @@ const std::array<SettingRow, 25> kSettingsTable = {{
     {"Numbering", "SkipLines", "%", "renumber: skip characters"},
     {"Numbering", "Start", "100", "renumber: start number"},
     {"Numbering", "Method", "2", "renumber: method (2 = all non-comment lines)"},
+    {"Numbering", "UpdateReferences", "False", "renumber: rewrite the words that name a renumbered block"},
     {"Operate", "Operators", "*", "operate: operator"},
     {"Operate", "Address", "XYZ", "operate: address letters"},
     {"RecentFiles", "RecentFile1", "", "most recent file (RecentFile1 to RecentFile8)"},
@@ -65,6 +68,8 @@ FrameSettings readFrameSettings(const SettingsStore& store, double screenWidth, 
   f.toolbar = readBool(store, "Toolbar", true);
   f.status = readBool(store, "Status", true);
   f.autoFormat = readBool(store, "Auto", false);
+  f.lineNumbers = readBool(store, "LineNumbers", true);
+  f.toolbarText = readBool(store, "ToolbarText", false);
   f.windowState = static_cast<int>(readNumber(store, "WindowState", 0));
   f.left = readNumber(store, "left", 50);
   f.top = readNumber(store, "top", 50);
@@ -85,6 +90,8 @@ void writeFrameSettings(SettingsStore& store, const FrameSettings& f) {
   store.save(kStartup, "Toolbar", boolText(f.toolbar));
   store.save(kStartup, "Status", boolText(f.status));
   store.save(kStartup, "Auto", boolText(f.autoFormat));
+  store.save(kStartup, "LineNumbers", boolText(f.lineNumbers));
+  store.save(kStartup, "ToolbarText", boolText(f.toolbarText));
   store.save(kStartup, "WindowState", std::to_string(f.windowState));
   store.save(kStartup, "left", singleText(f.left));
   store.save(kStartup, "top", singleText(f.top));
@@ -101,6 +108,7 @@ NumberingSettings readNumberingSettings(const SettingsStore& store) {
   n.skipLines = store.get(kNumbering, "SkipLines", n.skipLines);
   n.start = store.get(kNumbering, "Start", n.start);
   n.method = readOr(store, kNumbering, "Method", 2, [](const std::string& t) { return int(toInt16(t)); });
+  n.updateReferences = readOr(store, kNumbering, "UpdateReferences", false, [](const std::string& t) { return toBool(t); });
   return n;
 }
 
@@ -110,6 +118,7 @@ void writeNumberingSettings(SettingsStore& store, const NumberingSettings& n) {
   store.save(kNumbering, "SkipLines", n.skipLines);
   store.save(kNumbering, "Start", n.start);
   store.save(kNumbering, "Method", std::to_string(n.method));
+  store.save(kNumbering, "UpdateReferences", n.updateReferences ? "True" : "False");
 }
 
 int readSearchFlags(const SettingsStore& store) {

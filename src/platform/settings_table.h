@@ -18,7 +18,7 @@ struct SettingRow {
 
 // The settings table. Rows whose default depends on the screen or the executable's folder have
 // a null default; the typed readers below supply those.
-extern const std::array<SettingRow, 25> kSettingsTable;
+extern const std::array<SettingRow, 28> kSettingsTable;
 
 // Looks up a fixed default in the table ("" for unknown keys and machine-dependent ones).
 std::string settingDefault(std::string_view section, std::string_view key);
@@ -33,6 +33,8 @@ struct FrameSettings {
   bool toolbar = true;
   bool status = true;
   bool autoFormat = false;
+  bool lineNumbers = true;   // the documents' line-number margin
+  bool toolbarText = false;  // names under the toolbar icons
   int windowState = 0;  // 0 normal, 1 minimised, 2 maximised
   double left = 50, top = 50, width = 0, height = 0;  // twips
   std::array<std::string, 4> quickFolders;
@@ -49,6 +51,7 @@ void writeFrameSettings(SettingsStore& store, const FrameSettings& settings);
 struct NumberingSettings {
   std::string character = "N", increment = "1", skipLines = "%", start = "100";
   int method = 2;
+  bool updateReferences = false;
 };
 NumberingSettings readNumberingSettings(const SettingsStore& store);
 void writeNumberingSettings(SettingsStore& store, const NumberingSettings& settings);

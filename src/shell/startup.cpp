@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include "platform/file_system.h"
+#include "platform/install_layout.h"
 #include "platform/vb_convert.h"
 #include "platform/app_folder.h"
 #include "platform/settings_table.h"
@@ -20,6 +22,32 @@ void setWorkFiles(AppValues& v, const std::string& appFolder) {
   v.PrintRtfFile = appFolder + "PrintRTF.RTF";
   v.UndoFile = appFolder + "UNDO.RTF";
   v.HelpFile = appFolder + "help/index.html";
+}
+
+std::string StartupHost::installedDataFolder() { return lathwick::installedDataFolder(executableFolder()); }
+
+std::string StartupHost::userAppFolder() { return lathwick::userAppFolder(); }
+
+std::string withInstalledDataFolder(StartupHost& host, const std::string& appFolder) {
+  const std::string installed = WithBackslash(host.installedDataFolder());
+  if (installed.empty() || FileExists(appFolder + kDataFileName) || !FileExists(installed + kDataFileName))
+    return appFolder;
+  return installed;
+}
+
+std::string settleWritableAppFolder(StartupHost& host, const std::string& appFolder) {
+  const std::string installed = WithBackslash(host.installedDataFolder());
+  const std::string user = WithBackslash(host.userAppFolder());
+  if (user.empty()) return appFolder;
+  if (appFolder == user) {
+    // Files a newer installation added reach the user's folder; the user's own stay.
+    if (!installed.empty() && FileExists(installed + kDataFileName)) fillAppFolder(installed, user);
+    return user;
+  }
+  const bool readOnly = appFolder == installed || !isWritableFolder(appFolder);
+  if (!readOnly || !FileExists(appFolder + kDataFileName)) return appFolder;
+  fillAppFolder(appFolder, user);
+  return user;
 }
 
 StartupResult runStartup(StartupHost& host) {
@@ -54,6 +82,8 @@ StartupResult runStartup(StartupHost& host) {
   step([&] {
     if (v.AppFolder != ownFolder && FileExists(ownFolder + kDataFileName)) v.AppFolder = ownFolder;
   });
+  step([&] { v.AppFolder = withInstalledDataFolder(host, v.AppFolder); });
+  step([&] { v.AppFolder = settleWritableAppFolder(host, v.AppFolder); });
   step([&] { v.DataFilePath = v.AppFolder + kDataFileName; });
   step([&] { host.settings().save(kStartup, "app_path", v.AppFolder); });
   step([&] { host.showSplash(); });

@@ -43,6 +43,13 @@ class StartupHost {
   virtual void loadMainWindow(const AppValues& values) = 0;
   virtual void loadSchemeEditor(const AppValues& values) = 0;  // load and unload, not shown
   virtual void showStartupError(const std::string& message, const std::string& caption) = 0;
+  // The bundled data folder of an installed program (default: share/lathwick beside the
+  // executable's folder). It is used when neither the executable's folder nor the stored folder
+  // holds the scheme data file, and the program never writes in it.
+  virtual std::string installedDataFolder();
+  // The folder each user gets when the application folder cannot be written (default: under
+  // the XDG data home); empty when there is none.
+  virtual std::string userAppFolder();
 };
 
 enum class StartupOutcome { Running, EndedMissingDataFile };
@@ -52,6 +59,16 @@ struct StartupResult {
   AppValues values;
   std::string errorMessage;  // the one error report shown at the end, if any
 };
+
+// The installed data folder when the folder the stored setting and the executable's folder
+// settled on lacks the scheme data file and the installed one has it; otherwise that folder.
+std::string withInstalledDataFolder(StartupHost& host, const std::string& appFolder);
+
+// The folder the program works in: the per-user folder, filled from the application folder
+// (fillAppFolder), when that is the installed data folder or cannot be written; the given
+// folder otherwise. When the per-user folder is already the application folder, files a newer
+// installation added are copied in. Throws when the per-user folder cannot be filled.
+std::string settleWritableAppFolder(StartupHost& host, const std::string& appFolder);
 
 // Runs every step in order. A failing step does not stop the sequence; the last error is
 // reported once at the end through the host.

@@ -101,6 +101,7 @@ double OperateLine::compute(double value) const {
 long OperateLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) {
   const long open = excludeComments_ ? positionOf(raw, open_) : 0;
   const long close = excludeComments_ ? positionOf(raw, close_) : 0;
+  long count = 0;  // operations made, which a value changed twice counts twice
   for (const char address : addresses_) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;
@@ -113,6 +114,7 @@ long OperateLine::transform(std::string_view raw, std::string& line, std::vector
     size_t cursor = 0;
     size_t moved = 0;  // earlier stretches already carried over
     const size_t before = marks.size();
+    long operations = 0;
     auto carry = [&](size_t limit) {
       const size_t shift = done_.size() - cursor;  // wraps for a shrinking line; the sum is right
       for (; moved < before && marks[moved].start < limit; ++moved)
@@ -135,22 +137,31 @@ long OperateLine::transform(std::string_view raw, std::string& line, std::vector
       picture_.format(result, number_);
       carry(valueStart);
       done_.append(line, cursor, valueStart - cursor);
-      marks.push_back({done_.size(), done_.size() + number_.size()});
+      const Stretch mark{done_.size(), done_.size() + number_.size()};
+      // A letter given twice ("XX") works on a value it already changed. A mark starts just
+      // after its letter and covers the whole value, so such a value begins where an earlier
+      // mark begins: that mark moves over the new text instead of a second one being added.
+      if (moved < before && marks[moved].start == valueStart)
+        marks[moved++] = mark;
+      else
+        marks.push_back(mark);
       done_.append(number_);
+      ++operations;
       cursor = valueEnd;
       p = line.find(address, valueEnd);
     }
-    if (marks.size() == before) continue;
+    if (operations == 0) continue;
+    count += operations;
     carry(std::string::npos);
     done_.append(line, cursor, std::string::npos);
     line.swap(done_);
     // Usually the addresses come in the order of the line (X before Y before Z) and nothing
     // needs merging.
-    if (before > 0 && marks[before].start < marks[before - 1].start)
+    if (before > 0 && marks.size() > before && marks[before].start < marks[before - 1].start)
       std::inplace_merge(marks.begin(), marks.begin() + static_cast<long>(before), marks.end(),
                          [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
-  return static_cast<long>(marks.size());
+  return count;
 }
 
 long OperateLine::apply(std::string_view raw, std::string& line) {

@@ -4,6 +4,7 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "transform/renumber_references.h"
 #include "transform/search_match.h"
 
 namespace lathwick::transform {
@@ -90,6 +91,7 @@ PassResult runRenumber(const std::string& inPath, const std::string& outPath, co
     r.title = kSequenceRequiredTitle;
     return r;
   }
+  if (request.updateReferences) return runRenumberKeepingReferences(inPath, outPath, request, monitor);
   RenumberLine transform(request);
   PlainPassSettings settings;
   settings.statusText = kRenumberingStatus;

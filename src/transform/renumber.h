@@ -31,6 +31,7 @@ struct RenumberRequest {
   std::string skipCharacters = "%";
   std::string commentStart = "(";  // the scheme's comment-start text; blanks are trimmed
   LineRange range;
+  bool updateReferences = false;  // "Update references": rewrite the words that name a renumbered block
 };
 
 // The per-line work with its running number. Throws AppError 6 when the number leaves the
@@ -52,7 +53,8 @@ class RenumberLine : public PlainLineTransform {
   std::string scratch_;
 };
 
-// Refused with kSequenceRequired (outcome Refused) when the trimmed sequence text is empty.
+// Refused with kSequenceRequired (outcome Refused) when the trimmed sequence text is empty. With
+// `updateReferences` the references are kept (renumber_references.h) or the pass is refused.
 PassResult runRenumber(const std::string& inPath, const std::string& outPath, const RenumberRequest& request,
                        PassMonitor& monitor);
 

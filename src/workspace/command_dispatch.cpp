@@ -18,7 +18,10 @@ bool CommandDispatcher::has(const std::string& name, int index) const { return f
 bool CommandDispatcher::run(const std::string& name, int index) const {
   const Handler* handler = find(name, index);
   if (!handler) return false;
-  (*handler)(index);
+  if (boundary_)
+    runInsideBoundary([&] { (*handler)(index); }, boundary_);
+  else
+    (*handler)(index);
   return true;
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/command_boundary.h"
+
 namespace lathwick {
 
 struct CommandId {
@@ -22,12 +24,15 @@ class CommandDispatcher {
   // Registers a handler for one entry, or with index -1 for every index of the name.
   void add(const std::string& name, Handler handler, int index = -1);
   bool has(const std::string& name, int index = -1) const;
-  // Runs the command; false when none is registered.
+  // Runs the command; false when none is registered. With a boundary set, an exception that
+  // escapes the command goes to it as a message instead of on to the caller.
   bool run(const std::string& name, int index = -1) const;
+  void setBoundary(BoundaryReport report) { boundary_ = std::move(report); }
 
  private:
   const Handler* find(const std::string& name, int index) const;
   std::map<CommandId, Handler> handlers_;
+  BoundaryReport boundary_;
 };
 
 }  // namespace lathwick

@@ -108,6 +108,27 @@ TEST(TransformCli, OperateScalesAndFormats) {
   EXPECT_EQ(r.out, "2 Operations made.\n");
 }
 
+TEST(TransformCli, OperateWithALetterGivenTwiceMarksEachValueOnce) {
+  TempDir dir;
+  auto r = runCli({"operate", "--address", "XX", "--operator", "/", "--value", "100", "--format", "0.##",
+                   dir.write("nine.nc", "X9\r\n"), dir.file("nine.rtf")});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(r.out, "2 Operations made.\n");
+
+  r = runCli({"operate", "--address", "XX", "--operator", "+", "--value", "0.25", "--format", "0.##",
+              dir.write("quarter.nc", "X1.25\r\n"), dir.file("quarter.rtf")});
+  ASSERT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(r.out, "2 Operations made.\n");
+  for (const char* name : {"nine.rtf", "quarter.rtf"}) {
+    const auto lines = richLines(dir.read(name));
+    ASSERT_GE(lines.size(), 3u) << name;
+    const std::string& line = lines[lines.size() - 2];  // the program line, before the trailer
+    // One mark: the value appears once, closed by one "\plain".
+    EXPECT_EQ(line.find("\\plain"), line.rfind("\\plain")) << line;
+    EXPECT_NE(line.find(name[0] == 'n' ? " 0.\\plain" : " 1.75\\plain"), std::string::npos) << line;
+  }
+}
+
 TEST(TransformCli, NothingChangedStillWritesOut) {
   TempDir dir;
   const auto in = dir.write("in.nc", "G00\r\n");

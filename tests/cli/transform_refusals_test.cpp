@@ -78,8 +78,8 @@ TEST(TransformCliRefusals, RenumberNeedsASequenceTextAndGoodNumbers) {
   expectRefused(renumber("10", " ", "2"), "Sequence character must be specified.", out);
   expectUsage(renumber("ten", "N", "2"), "--start", out);
   expectUsage(renumber("10", "N", "3"), "--method", out);
-  expectUsage(runCli({"renumber", "--start", "1", "--increment", "1", "--skip", "%", "--method", "2", in, out}),
-              "--char", out);
+  // Every renumber option has the dialog's default now; a --char without its value is still wrong.
+  expectUsage(runCli({"renumber", in, out, "--char"}), "--char", out);
   expectUsage(runCli({"replace", "--find", "X", in, out}), "--replace", out);
   expectUsage(runCli({"replace", "--find", "X", "--replace", "Y", "--lines", "5-2", in, out}), "--lines", out);
   expectUsage(runCli({"junk-filter", in}), "IN and OUT", out);

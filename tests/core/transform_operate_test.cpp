@@ -121,6 +121,21 @@ TEST(Operate, MarkersFollowTheValuesWhenAnEarlierValueChangesLength) {
   EXPECT_EQ(operated("Y1 X1", "XY", '*', 10, "0.000"), "Y<10.000> X<10.000>");
 }
 
+TEST(Operate, ALetterGivenTwiceWorksOnItsValueTwiceUnderOneMark) {
+  long n = 0;
+  EXPECT_EQ(operated("X9", "XX", '/', 100, "0.##", false, &n), "X<0.>");  // 0.09, then 0.0009
+  EXPECT_EQ(n, 2);
+  EXPECT_EQ(operated("X1.25", "XX", '+', 0.25, "0.##", false, &n), "X<1.75>");
+  EXPECT_EQ(n, 2);
+  // Another letter in between, values growing and shrinking around the one changed twice.
+  EXPECT_EQ(operated("Y1 X1", "XYX", '*', 10, "0.000", false, &n), "Y<10.000> X<100.000>");
+  EXPECT_EQ(n, 3);
+  EXPECT_EQ(operated("X100 Y1 X200", "XYX", '/', 10, "0", false, &n), "X<1> Y<0> X<2>");
+  EXPECT_EQ(n, 5);
+  EXPECT_EQ(operated("X1 Y2 X", "XXX", '+', 1, "0", false, &n), "X<4> Y2 X");
+  EXPECT_EQ(n, 3);
+}
+
 TEST(Operate, ACompleteCommentBlocksTheWholeLineWhenCommentsAreExcluded) {
   long n = 0;
   EXPECT_EQ(operated("G01 X1 (MOVE X)", "X", '*', 2, "0", true, &n), "G01 X1 (MOVE X)");
@@ -142,6 +157,17 @@ TEST(Operate, PassCountsOperationsAndOverflowFailsTheOperation) {
   EXPECT_EQ(r.statusLabel, "3 Operations made.");
   EXPECT_EQ(dir.read("out.rtf"), "H\r\n\\li0 X<20.0> Y<-5.0> Z<0.2>\r\n\\par\\li0 M30\r\nT\r\n");
 
+  // A doubled letter: one mark per value, every operation counted.
+  req.addresses = "XX";
+  req.op = '+';
+  req.operand = 0.25;
+  req.format = "0.##";
+  r = runOperate(dir.write("twice.txt", "X1.25\r\n"), dir.file("twice.rtf"), req, frame(),
+                 lathwick::silentMonitor());
+  EXPECT_EQ(r.statusLabel, "2 Operations made.");
+  EXPECT_EQ(dir.read("twice.rtf"), "H\r\n\\li0 X<1.75>\r\nT\r\n");
+
+  req = OperateRequest{};
   req.operand = 1e300;
   r = runOperate(dir.write("big.txt", "X1" + std::string(20, '9') + "\r\n"), dir.file("big.rtf"), req, frame(),
                  lathwick::silentMonitor());

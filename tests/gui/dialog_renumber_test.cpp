@@ -3,6 +3,7 @@
 // filters of the number fields.
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -95,6 +96,37 @@ TEST_F(RenumberDialog, FieldsComeFromAndGoBackToTheNumberingSettings) {
   EXPECT_EQ(settings.get("Numbering", "Method"), "0");
   EXPECT_EQ(settings.get("Numbering", "Increment"), "125");
   EXPECT_EQ(settings.get("Numbering", "Character"), "O");
+}
+
+TEST_F(RenumberDialog, UpdateReferencesIsOffByDefaultKeptInNumberingAndFollowsTheJumps) {
+  EXPECT_FALSE(child<QCheckBox>("chkReferences")->isChecked());
+  const std::vector<std::string> loop{"N1 G1 X1", "N2 GOTO 1"};
+  FakeDocument plain(loop);
+  dialog->showFor(plain);
+  fill("10", "10", 2);
+  ok();
+  EXPECT_EQ(plain.text, "N10 G1 X1\nN20 GOTO 1");
+  EXPECT_EQ(settings.get("Numbering", "UpdateReferences"), "False");
+
+  dialog = std::make_unique<frmRenumber>(settings);
+  FakeDocument kept(loop);
+  dialog->showFor(kept);
+  child<QCheckBox>("chkReferences")->click();
+  ok();
+  EXPECT_EQ(kept.text, "N10 G1 X1\nN20 GOTO 10");
+  EXPECT_EQ(settings.get("Numbering", "UpdateReferences"), "True");
+
+  // A jump to nowhere: the message names it and the document keeps its text.
+  dialog = std::make_unique<frmRenumber>(settings);
+  EXPECT_TRUE(child<QCheckBox>("chkReferences")->isChecked());
+  FakeDocument broken({"N1 GOTO 7"});
+  dialog->showFor(broken);
+  ok();
+  EXPECT_EQ(broken.reloads, 0);
+  EXPECT_EQ(broken.text, "N1 GOTO 7");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].caption, "Update References");
+  EXPECT_NE(dialogs.messages[0].text.find("Line 1: GOTO 7 names N7, which no block has."), std::string::npos);
 }
 
 }  // namespace

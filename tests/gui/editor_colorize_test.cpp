@@ -47,9 +47,8 @@ TEST_F(ColorizeTest, ViewModesColoursByModeAndUndoTakesItBack) {
   start();
   gui::frmEditor* e = openFile(files.write("p.nc", text));
   trigger("mnuModal", 0);
-  // The characters stay (the rich text ends with its last line, not with a break); only their
-  // look changes.
-  EXPECT_EQ(e->rtfTextBox().text(), text.substr(0, text.size() - 2));
+  // The characters stay, the final line break too; only their look changes.
+  EXPECT_EQ(e->rtfTextBox().text(), text);
   const std::vector<int> modes = lineStyles(e);
   ASSERT_EQ(modes.size(), 4u);
   EXPECT_EQ(modes[0], modes[1]);  // G00 stays in force on the next line
@@ -75,7 +74,7 @@ TEST_F(ColorizeTest, ToolbarCodesAndReloadAreAvailableWithADocument) {
   const std::string x = e->richTextBox().stylesOf(4, 5), y = e->richTextBox().stylesOf(7, 8);
   EXPECT_NE(x, y);  // X and Y positions in their own styles
   trigger("mnuModal", 2);  // Reload: the text as it is, formats dropped
-  EXPECT_EQ(e->rtfTextBox().text(), "G00 X1 Y2 Z3");
+  EXPECT_EQ(e->rtfTextBox().text(), "G00 X1 Y2 Z3\r\n");
   EXPECT_EQ(e->richTextBox().stylesOf(4, 5), e->richTextBox().stylesOf(7, 8));
 }
 

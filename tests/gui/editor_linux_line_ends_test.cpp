@@ -8,13 +8,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 #include <filesystem>
 
 #include "document/document_table.h"
 #include "document/line_convention.h"
 #include "frame_fixture.h"
-#include "platform/gui/rich_text_box.h"
-#include "shell/gui/menu_set.h"
+#include "document/gui/rich_text_box.h"
+#include "workspace/gui/menu_set.h"
 #include "support/cli_runner.h"
 #include "transform/gui/frm_renumber.h"
 
@@ -86,7 +87,7 @@ TEST_F(LinuxLineEndsTest, AColourViewThenSaveLeavesTheFileByteIdentical) {
   const std::string crlf = "%\r\nO1000\r\nG00 X0 Y0 (START)\r\nG01 X10.5 F100\r\nM30\r\n%\r\n";
   for (const std::string& bytes : {crlf, kLinuxProgram, std::string("G00 X1\r\nG01 X2")}) {
     const std::string path = files.write("view.nc", bytes);
-    gui::frmEditor* e = openFile(path);
+    ASSERT_NE(openFile(path), nullptr);
     for (int view : {0, 1, 2}) {
       SCOPED_TRACE("view " + std::to_string(view) + " of " + bytes);
       trigger("mnuModal", view);
@@ -181,47 +182,4 @@ TEST(FontStandIn, AMissingFixedPitchFontBecomesAFixedPitchFont) {
   EXPECT_TRUE(QFontInfo(QFont(QString::fromStdString(shown))).fixedPitch()) << shown;
   format.fixedPitch = false;  // nothing asked for columns: the system's own choice
   EXPECT_EQ(displayFontName(format), format.fontName);
-}
-
-// Through the window, each Linux program of the corpus colours and takes spaces exactly as its
-// CR LF twin does, and is saved back with LF and no other change.
-TEST_F(LinuxLineEndsTest, CorpusProgramsMatchTheirCrLfTwinsThroughTheWindow) {
-  const std::string corpus = lathwick::test::corpusDir("gcode");
-  if (corpus.empty()) GTEST_SKIP() << "no corpus";
-  start();
-  int programs = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
-    const std::string bytes = readBytes(entry.path().string());
-    if (entry.path().filename() == "SOURCES.md" || lineEndsOf(bytes) != LineEnds::Lf) continue;
-    ++programs;
-    const std::string name = entry.path().filename().string();
-    const std::string mine = files.write(name, bytes);
-    const std::string twin = files.write("twin_" + name, linuxToCrLf(bytes));
-    gui::frmEditor* a = openFile(mine);
-    gui::frmEditor* b = openFile(twin);
-    ASSERT_TRUE(a && b) << name;
-    for (gui::frmEditor* e : {a, b}) {
-      frame->mdiArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(e->parentWidget()));
-      trigger("mnuModal", 0);
-    }
-    ASSERT_TRUE(dialogs.messages.empty()) << name << ": " << dialogs.messages[0].text;
-    EXPECT_EQ(a->rtfTextBox().text(), b->rtfTextBox().text()) << name;
-    const long length = a->rtfTextBox().textLength();
-    EXPECT_EQ(a->richTextBox().stylesOf(0, length), b->richTextBox().stylesOf(0, length)) << name;
-    for (gui::frmEditor* e : {a, b}) {
-      frame->mdiArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(e->parentWidget()));
-      trigger("mnuAddSpaces");
-    }
-    EXPECT_EQ(a->rtfTextBox().text(), b->rtfTextBox().text()) << name;
-    frame->mdiArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(a->parentWidget()));
-    save();
-    EXPECT_EQ(readBytes(mine), withLineEnds(a->rtfTextBox().text(), LineEnds::Lf)) << name;
-    EXPECT_EQ(readBytes(mine).find('\r'), std::string::npos) << name;
-    for (gui::frmEditor* e : {a, b}) {
-      e->record().changed = false;
-      e->parentWidget()->close();
-    }
-    QApplication::processEvents();
-  }
-  EXPECT_GT(programs, 0);
 }

@@ -106,7 +106,7 @@ TEST_F(TransformsTest, OperateScalesTheSelectedLineOnly) {
   child<QPushButton>(dialog, "cmdOK")->click();
   QApplication::processEvents();
   // The result comes back as rich text (the changed values highlighted); the characters read:
-  EXPECT_EQ(e->rtfTextBox().text(), "G00 X10 Y-2.5\r\nG01 X20.0 Y-5.0\r\nG01 X1");
+  EXPECT_EQ(e->rtfTextBox().text(), "G00 X10 Y-2.5\r\nG01 X20.0 Y-5.0\r\nG01 X1\r\n");
   EXPECT_TRUE(e->FileUndoable());
   EXPECT_TRUE(dialogs.messages.empty());
 }

@@ -22,6 +22,8 @@ class ScriptedDialogs : public gui::Dialogs {
   std::vector<Message> messages;
   std::vector<gui::FileRequest> requests;
   std::vector<std::string> opened;
+  std::deque<std::optional<std::string>> texts;  // answers to one-line queries; default: cancelled
+  std::vector<std::string> queries;              // the captions of the queries asked
 
   gui::Answer message(const std::string& text, const std::string& caption, gui::Buttons buttons,
                       gui::Icon icon) override {
@@ -39,6 +41,13 @@ class ScriptedDialogs : public gui::Dialogs {
     return f;
   }
   void openInBrowser(const std::string& path) override { opened.push_back(path); }
+  std::optional<std::string> askText(const std::string&, const std::string& caption, const std::string&) override {
+    queries.push_back(caption);
+    if (texts.empty()) return std::nullopt;
+    auto t = texts.front();
+    texts.pop_front();
+    return t;
+  }
 
  private:
   gui::ScopedDialogs installed_{*this};

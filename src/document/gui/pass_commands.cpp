@@ -10,6 +10,7 @@
 #include "transform/junk_filter.h"
 #include "transform/spaces.h"
 #include "transform/gui/document_pass.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/qt_pass_monitor.h"
 
 namespace lathwick::gui {
@@ -80,6 +81,7 @@ void frmEditor::showPassResult(const transform::PassResult& result) {
       if (result.reload) {
         reloadDocument(outputWorkFile(), TextKind::Plain);
         setFileUndoable(true);
+        notifyPassDone(*this, PassKind::KeepsMotion);
       }
       break;
     case PassOutcome::NoInput:  // the input could not be written or read: nothing is said

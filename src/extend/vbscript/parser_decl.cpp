@@ -238,13 +238,13 @@ ProcPtr Parser::procedure(ProcKind kind, bool isPublic, bool isDefault, ClassDef
     }
     ClassMember& m = c.members[static_cast<size_t>(idx)];
     if (m.field >= 0) failAt(ce::kRedefined, nameTok);
-    switch (kind) {
-      case ProcKind::Sub:
-      case ProcKind::Function: m.method = p; break;
-      case ProcKind::PropertyGet: m.get = p; break;
-      case ProcKind::PropertyLet: m.let = p; break;
-      case ProcKind::PropertySet: m.set = p; break;
-    }
+    // A member given twice is refused: the names of the first body still wait to be bound.
+    auto& slot = kind == ProcKind::PropertyGet   ? m.get
+                 : kind == ProcKind::PropertyLet ? m.let
+                 : kind == ProcKind::PropertySet ? m.set
+                                                 : m.method;
+    if (slot) failAt(ce::kRedefined, nameTok);
+    slot = p;
     if (isPublic) m.isPublic = true;
     if (isDefault) {
       if (c.defaultMember >= 0 && c.defaultMember != idx) failAt(ce::kMultipleDefault, nameTok);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QUrl>
 #include <algorithm>
@@ -99,6 +100,16 @@ std::optional<std::string> QtDialogs::chooseFile(const FileRequest& request) {
   if (!request.fileName.empty()) dialog.selectFile(q(request.fileName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return dialog.selectedFiles().first().toLocal8Bit().toStdString();
+}
+
+std::optional<std::string> Dialogs::askText(const std::string& prompt, const std::string& caption,
+                                           const std::string& initial) {
+  bool ok = false;
+  const QString text = QInputDialog::getText(QApplication::activeWindow(), QString::fromLatin1(caption.c_str()),
+                                             QString::fromLatin1(prompt.c_str()), QLineEdit::Normal,
+                                             QString::fromLatin1(initial.c_str()), &ok);
+  if (!ok) return std::nullopt;
+  return text.toLatin1().toStdString();
 }
 
 void QtDialogs::openInBrowser(const std::string& path) {

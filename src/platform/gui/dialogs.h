@@ -22,6 +22,9 @@ class Dialogs {
   virtual std::optional<std::string> chooseFile(const FileRequest& request) = 0;
   // Shows a local document (the help page) in the system's viewer.
   virtual void openInBrowser(const std::string& path) = 0;
+  // A one-line query (a new name): the text entered, or nothing when the user cancelled.
+  virtual std::optional<std::string> askText(const std::string& prompt, const std::string& caption,
+                                             const std::string& initial);
 };
 
 // The dialogs in use. The real ones open over the active window.

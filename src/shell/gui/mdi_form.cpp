@@ -16,32 +16,23 @@
 
 #include "document/gui/frm_editor.h"
 #include "shell/gui/frame_scripts.h"
+#include "extend/gui/motion_check.h"
 #include "format/bundled_schemes.h"
 #include "format/rich_text_builder.h"
 #include "format/scheme_data_file.h"
 #include "platform/file_system.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_folder.h"
 #include "workspace/gui/menu_set.h"
+#include "shell/gui/frame_look.h"
 #include "shell/gui/status_panels.h"
+#include "platform/gui/help_key.h"
 #include "transform/gui/cancel_flag.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/transform_dialogs.h"
 
 namespace lathwick::gui {
-namespace {
-const char* const kToolbarIconNames[][2] = {
-    {"New", "document-new"},     {"Open", "document-open"},   {"Save", "document-save"},
-    {"Print", "document-print"}, {"Find", "edit-find"},       {"Cut", "edit-cut"},
-    {"Copy", "edit-copy"},       {"Paste", "edit-paste"},     {"Delete", "edit-delete"},
-    {"Undo", "edit-undo"},       {"Help", "help-contents"},
-};
-
-QIcon toolbarIcon(const std::string& key) {
-  for (const auto& pair : kToolbarIconNames)
-    if (key == pair[0]) return QIcon::fromTheme(QString::fromLatin1(pair[1]));
-  return {};
-}
-}  // namespace
 
 MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* parent)
     : QMainWindow(parent),
@@ -52,13 +43,15 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
       currentScheme_(values.CurrentScheme) {
   setObjectName(QStringLiteral("MDIForm1"));
   setWindowTitle(QString::fromLatin1(kAppTitle));
-  setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
+  setWindowIcon(applicationIcon());
+  setHelpFolder(values_.AppFolder + "help/");
   setCentralWidget(mdi_);
 
   transforms_ = std::make_unique<TransformDialogs>(settings_, this);
+  installMotionCheck();  // every pass's result says whether the program's motion changed
   registerCommands();
   frameMenus_ = std::make_unique<MenuSet>(frameMenuTable(), this, commands_, false);
-  for (const char* name : {"mnuToolbar", "mnuStatus", "mnuAuto"}) frameMenus_->action(name)->setCheckable(true);
+  for (const char* name : kSettingToggles) frameMenus_->action(name)->setCheckable(true);
   buildToolbar();
   panels_ = new StatusPanels(statusBar());
   connect(panels_, &StatusPanels::bookmarkPressed, this, &MDIForm1::onBookmark);
@@ -74,9 +67,15 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
 }
 
 MDIForm1::~MDIForm1() {
+  setEscapedErrorCleanup({});
   qApp->removeEventFilter(this);
-  // The documents go first: their windows still reach the frame while they are torn down.
-  for (QMdiSubWindow* sub : mdi_->subWindowList()) delete sub;
+  setPassObserver({});
+  // The documents go first: their windows still reach the frame while they are torn down. The
+  // frame no longer follows them: its menus and toolbar are going too.
+  // Closed windows are no longer in the area's list but still its children: take them all.
+  for (frmEditor* editor : findChildren<frmEditor*>()) disconnect(editor, nullptr, this, nullptr);
+  windows_.clear();
+  for (QMdiSubWindow* sub : mdi_->findChildren<QMdiSubWindow*>()) delete sub;
   transforms_.reset();
 }
 
@@ -84,6 +83,8 @@ void MDIForm1::buildToolbar() {
   toolbar_ = addToolBar(QStringLiteral("Toolbar1"));
   toolbar_->setObjectName(QStringLiteral("Toolbar1"));
   toolbar_->setMovable(false);
+  toolbar_->setIconSize(QSize(24, 24));
+  toolbar_->setToolButtonStyle(Qt::ToolButtonIconOnly);
   for (const ToolbarButton& button : toolbarTable()) {
     if (button.isSeparator()) {
       toolbar_->addSeparator();
@@ -240,13 +241,28 @@ void MDIForm1::setAutoFormat(bool on) {
   syncSettingChecks();
 }
 
+bool MDIForm1::toolbarText() const { return toolbar_->toolButtonStyle() == Qt::ToolButtonTextUnderIcon; }
+
+void MDIForm1::setToolbarText(bool on) {
+  toolbar_->setToolButtonStyle(on ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+  syncSettingChecks();
+}
+
+void MDIForm1::setLineNumbers(bool on) {
+  lineNumbers_ = on;
+  for (frmEditor* editor : editors()) showLineNumbers(editor->rtfTextBox().widget(), on);
+  syncSettingChecks();
+}
+
 void MDIForm1::syncSettingChecks() {
   std::vector<MenuSet*> sets{frameMenus_.get()};
   for (frmEditor* editor : editors()) sets.push_back(&editor->menus());
   for (MenuSet* set : sets) {
     const std::pair<const char*, bool> states[] = {{"mnuToolbar", !toolbar_->isHidden()},
                                                    {"mnuStatus", !statusBar()->isHidden()},
-                                                   {"mnuAuto", autoFormat_}};
+                                                   {"mnuAuto", autoFormat_},
+                                                   {"mnuLineNumbers", lineNumbers_},
+                                                   {"mnuToolbarText", toolbarText()}};
     for (const auto& [name, on] : states) {
       QAction* action = set->action(name);
       action->setCheckable(true);
@@ -342,6 +358,8 @@ void MDIForm1::load() {
     toolbar_->setVisible(fs.toolbar);
     statusBar()->setVisible(fs.status);
     autoFormat_ = fs.autoFormat;
+    lineNumbers_ = fs.lineNumbers;
+    toolbar_->setToolButtonStyle(fs.toolbarText ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     for (int n = 1; n <= kQuickFolders; ++n) {
       const std::string& tag = fs.quickFolders[static_cast<std::size_t>(n - 1)];
       quickFolders_[static_cast<std::size_t>(n - 1)]->setData(QString::fromLocal8Bit(tag.c_str()));
@@ -372,6 +390,8 @@ FrameSettings MDIForm1::currentFrameSettings() const {
   fs.toolbar = !toolbar_->isHidden();
   fs.status = !statusBar()->isHidden();
   fs.autoFormat = autoFormat_;
+  fs.lineNumbers = lineNumbers_;
+  fs.toolbarText = toolbarText();
   fs.windowState = isMaximized() ? 2 : isMinimized() ? 1 : 0;
   const QRect normal = isMaximized() || isMinimized() ? normalGeometry() : geometry();
   fs.left = pixelsToTwips(normal.x());

@@ -27,6 +27,10 @@ class QToolButton;
 
 namespace lathwick::gui {
 
+// The Settings menu's entries that show a check mark for their state.
+inline constexpr const char* kSettingToggles[] = {"mnuToolbar", "mnuToolbarText", "mnuStatus", "mnuLineNumbers",
+                                                  "mnuAuto"};
+
 class frmEditor;
 class MenuSet;
 class TransformDialogs;
@@ -81,6 +85,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   StatusPanels& statusPanels() const { return *panels_; }
   LastSelection& lastSelection() override { return lastSelection_; }
   bool autoFormat() const { return autoFormat_; }
+  bool lineNumbers() const { return lineNumbers_; }
+  bool toolbarText() const;
   int currentScheme() const override { return currentScheme_; }
   void setCurrentScheme(std::int16_t scheme) override { currentScheme_ = scheme; }
   const std::string& lastPath() const { return lastPath_; }
@@ -99,6 +105,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   // The record of the current scheme, read from the data file when the number changes; the first
   // shipped scheme when the data file cannot give it.
   const SchemeRecord* currentSchemeRecord() override;
+  // The scheme records were edited: the next currentSchemeRecord() reads the data file again.
+  void forgetSchemeRecord() { schemeRecord_.reset(); }
 
   // The scheme data file could not be read: said once, not for every window.
   void reportDataFileProblem() override;
@@ -131,6 +139,10 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void tileVertically();    // side by side
   void tileHorizontally();  // one above the other
 
+ signals:
+  // A document window was made, before its text arrives (its menus can be filled now).
+  void documentWindowCreated(frmEditor* editor);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -148,6 +160,8 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void setToolbarVisible(bool visible);
   void setStatusVisible(bool visible);
   void setAutoFormat(bool on);
+  void setLineNumbers(bool on);
+  void setToolbarText(bool on);
   void syncSettingChecks();
   void onBookmark(int number, Qt::MouseButton button);
   frmEditor* createWindow(int index);
@@ -175,6 +189,7 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   std::vector<std::string> recentPaths_;  // the path behind each recent menu entry, 1-based
   std::string lastPath_;
   bool autoFormat_ = false;
+  bool lineNumbers_ = true;
   std::int16_t currentScheme_ = 1;
   bool dataFileProblemShown_ = false;
   bool passRunning_ = false;

@@ -8,8 +8,14 @@
 
 #include "document/gui/document_commands.h"
 #include "document/gui/frm_editor.h"
+#include "extend/gui/extend_commands.h"
+#include "extend/gui/verify_commands.h"
+#include "extend/gui/graphics_commands.h"
+#include "format/colorizer.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
+#include "shell/gui/print_scheme_commands.h"
 #include "transform/gui/transform_commands.h"
 #include "transform/gui/transform_dialogs.h"
 
@@ -17,9 +23,17 @@ namespace lathwick::gui {
 
 // Each part of the program adds its own commands; a new part is one more line here.
 void MDIForm1::registerCommands() {
+  // Whatever a command lets escape is reported and the program goes on; the status bar is put
+  // back first, as a finished command would leave it.
+  setEscapedErrorCleanup([this] { setStatusText(kReadyStatus); });
+  commands_.setBoundary(reportEscapedError);
   registerFrameCommands();
   registerDocumentCommands(commands_, *this);
   registerTransformCommands(commands_, *transforms_, [this]() -> TransformTarget* { return activeEditor(); });
+  registerExtendCommands(*this);
+  registerPrintAndSchemeCommands(*this);
+  registerVerifyCommands(commands_, *this, this);
+  registerGraphicsCommands(commands_, *this, settings_);
 }
 
 // The frame's own commands: files, view settings, help and the Window menu.
@@ -38,6 +52,8 @@ void MDIForm1::registerFrameCommands() {
   commands_.add("mnuToolbar", [this](int) { setToolbarVisible(!toolbar_->isVisible()); });
   commands_.add("mnuStatus", [this](int) { setStatusVisible(!statusBar()->isVisible()); });
   commands_.add("mnuAuto", [this](int) { setAutoFormat(!autoFormat_); });
+  commands_.add("mnuLineNumbers", [this](int) { setLineNumbers(!lineNumbers_); });
+  commands_.add("mnuToolbarText", [this](int) { setToolbarText(!toolbarText()); });
   commands_.add("mnuContents", [this](int) { showHelp(); });
   commands_.add("mnuAbout", [this](int) {
     dialogs().message(values_.VersionText, std::string("About ") + kAppTitle, Buttons::Ok, Icon::Information);

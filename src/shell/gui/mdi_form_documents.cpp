@@ -12,6 +12,7 @@
 
 #include "document/document_table.h"
 #include "document/file_errors.h"
+#include "shell/gui/frame_look.h"
 #include "document/gui/frm_editor.h"
 #include "document/paths.h"
 #include "platform/atomic_file.h"
@@ -47,7 +48,8 @@ class HourGlass {
 
 frmEditor* MDIForm1::createWindow(int index) {
   auto* editor = new frmEditor(*this, index);
-  for (const char* name : {"mnuToolbar", "mnuStatus", "mnuAuto"}) editor->menus().action(name)->setCheckable(true);
+  for (const char* name : kSettingToggles) editor->menus().action(name)->setCheckable(true);
+  showLineNumbers(editor->rtfTextBox().widget(), lineNumbers_);
   QMenu* windowMenu = editor->menus().menu("mnuWindow");
   connect(windowMenu, &QMenu::aboutToShow, this, [this, windowMenu] { fillWindowList(windowMenu); });
   QMdiSubWindow* sub = mdi_->addSubWindow(editor);
@@ -58,6 +60,7 @@ frmEditor* MDIForm1::createWindow(int index) {
   windows_[index] = editor;
   documents_.record(index).scheme = currentScheme_;
   editor->LoadMenuArray();
+  emit documentWindowCreated(editor);
   connect(editor, &QObject::destroyed, this, [this, index] { forgetWindow(index); });
   return editor;
 }

@@ -1,7 +1,4 @@
 // The frame as the workspace commands and scripts see, and as its document windows see it.
-#include <QInputDialog>
-#include <QLineEdit>
-
 #include "document/gui/frm_editor.h"
 #include "platform/gui/dialogs.h"
 #include "shell/gui/mdi_form.h"
@@ -25,11 +22,7 @@ Answer MDIForm1::messageBox(const std::string& text, const std::string& caption,
 
 std::optional<std::string> MDIForm1::inputBox(const std::string& prompt, const std::string& caption,
                                               const std::string& defaultText) {
-  bool ok = false;
-  const QString text = QInputDialog::getText(this, QString::fromLatin1(caption), QString::fromLatin1(prompt),
-                                             QLineEdit::Normal, QString::fromLatin1(defaultText), &ok);
-  if (!ok) return std::nullopt;
-  return text.toLatin1().toStdString();
+  return dialogs().askText(prompt, caption, defaultText);
 }
 
 std::optional<std::string> MDIForm1::chooseFile(const FileRequest& request) { return dialogs().chooseFile(request); }

@@ -9,7 +9,9 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
 #include "platform/app_names.h"
@@ -17,6 +19,7 @@
 #include "transform/gui/combo_history.h"
 #include "transform/gui/document_pass.h"
 #include "transform/gui/key_filters.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/operate.h"
@@ -53,6 +56,7 @@ bool excludeCommentsSetting(const SettingsStore& settings) {
 }  // namespace
 
 frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "operate.html");
   setObjectName("frmOperate");
   setWindowTitle("Operate");
   setWindowModality(Qt::ApplicationModal);
@@ -81,9 +85,9 @@ frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(paren
   cmdUndo_->setObjectName("cmdUndo");
   cmdUndo_->setEnabled(false);
   for (QPushButton* b : {cmdCancel_, cmdUndo_}) b->setAutoDefault(false);
-  connect(cmdOK_, &QPushButton::clicked, this, &frmOperate::onOK);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
   connect(cmdCancel_, &QPushButton::clicked, this, &frmOperate::reject);
-  connect(cmdUndo_, &QPushButton::clicked, this, &frmOperate::onUndo);
+  connect(cmdUndo_, &QPushButton::clicked, this, guarded([this] { onUndo(); }));
 
   lblRange_ = new QLabel(this);
   lblRange_->setObjectName("lblRange");
@@ -193,6 +197,7 @@ void frmOperate::onOK() {
       target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
       target.setFileUndoable(true);
       cmdUndo_->setEnabled(true);
+      notifyPassDone(target, PassKind::ChangesMotion);
     }
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {

@@ -5,11 +5,13 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+#include "platform/gui/help_key.h"
 #include "transform/gui/cancel_flag.h"
 
 namespace lathwick::gui {
 
 frmProg::frmProg(QWidget* parent) : QDialog(parent) {
+  addHelpKey(this, "index.html");
   setObjectName("frmProg");
   setWindowTitle("Processing...");
   auto* layout = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "transform/gui/frm_renumber.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -12,13 +13,16 @@
 
 #include "platform/bytes.h"
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "platform/settings_table.h"
 #include "platform/app_names.h"
 #include "transform/gui/cancel_flag.h"
 #include "transform/gui/document_pass.h"
 #include "transform/gui/key_filters.h"
+#include "transform/gui/pass_observer.h"
 #include "transform/gui/text_bytes.h"
 #include "transform/gui/transform_target.h"
 #include "transform/renumber.h"
@@ -48,6 +52,7 @@ std::int32_t wholeNumber(const QString& text) {
 }  // namespace
 
 frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "renumber.html");
   setObjectName("frmRenumber");
   setWindowTitle("Renumber File");
   setWindowModality(Qt::ApplicationModal);
@@ -81,6 +86,13 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   Option1_[method_]->setChecked(true);
   connect(group, &QButtonGroup::idClicked, this, [this](int id) { method_ = id; });
 
+  // Off by default: a plain renumber leaves every other word of the program as it is.
+  chkReferences_ = new QCheckBox("Update &references", this);
+  chkReferences_->setObjectName("chkReferences");
+  chkReferences_->setToolTip("Rewrite the words that name a renumbered block: P and Q of G70 to G73, "
+                             "P of M97 and M99, H of M98, GOTO");
+  chkReferences_->setChecked(stored.updateReferences);
+
   lblRange_ = new QLabel(this);
   lblRange_->setObjectName("lblRange");
   cmdOK_ = new QPushButton("OK", this);
@@ -89,7 +101,7 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   Command1_ = new QPushButton("&Cancel", this);
   Command1_->setObjectName("Command1");
   Command1_->setAutoDefault(false);
-  connect(cmdOK_, &QPushButton::clicked, this, &frmRenumber::onOK);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
   connect(Command1_, &QPushButton::clicked, this, &frmRenumber::reject);
 
   auto* buttons = new QHBoxLayout;
@@ -99,6 +111,7 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(form);
   layout->addWidget(methods);
+  layout->addWidget(chkReferences_);
   layout->addLayout(buttons);
 }
 
@@ -114,6 +127,7 @@ void frmRenumber::saveSettings() {
   s.character = toBytes(txtSeqChr_->text());
   s.skipLines = toBytes(txtSkipLines_->text());
   s.method = method_;
+  s.updateReferences = chkReferences_->isChecked();
   writeNumberingSettings(settings_, s);
 }
 
@@ -146,6 +160,7 @@ void frmRenumber::onOK() {
   request.method = static_cast<RenumberMethod>(method_);
   request.commentStart = trimBlanks(target.commentStartText());
   request.range = range_.lines;
+  request.updateReferences = chkReferences_->isChecked();
   try {
     request.start = wholeNumber(txtStart_->text());
     request.increment = wholeNumber(txtStep_->text());
@@ -160,6 +175,7 @@ void frmRenumber::onOK() {
   if (result && result->outcome == PassOutcome::Completed) {
     target.reloadDocument(target.outputWorkFile(), ReloadFormat::Plain);
     target.setFileUndoable(true);
+    notifyPassDone(target, PassKind::KeepsMotion);
   }
   if (result && (result->outcome == PassOutcome::Completed || result->outcome == PassOutcome::Failed)) accept();
 }

@@ -1,6 +1,7 @@
 #pragma once
-// The "Renumber File" dialog: start number, increment, method, sequence character and the
-// characters that mark lines to skip, kept in the settings section "Numbering". OK renumbers
+// The "Renumber File" dialog: start number, increment, method, sequence character, the
+// characters that mark lines to skip and "Update references", kept in the settings section
+// "Numbering". OK renumbers
 // the operation range and closes the dialog.
 #include <QDialog>
 #include <array>
@@ -8,6 +9,7 @@
 #include "platform/settings_store.h"
 #include "transform/operation_range.h"
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -49,6 +51,7 @@ class frmRenumber : public QDialog {
   QLineEdit* txtSeqChr_;
   QLineEdit* txtSkipLines_;
   std::array<QRadioButton*, 3> Option1_;
+  QCheckBox* chkReferences_;
   QLabel* lblRange_;
   QPushButton* cmdOK_;
   QPushButton* Command1_;

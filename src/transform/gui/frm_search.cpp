@@ -10,7 +10,9 @@
 #include <QVBoxLayout>
 
 #include "platform/errors.h"
+#include "platform/gui/command_guard.h"
 #include "platform/gui/dialogs.h"
+#include "platform/gui/help_key.h"
 #include "platform/vb_convert.h"
 #include "workspace/history.h"
 #include "platform/settings_table.h"
@@ -61,6 +63,7 @@ QComboBox* historyBox(QWidget* parent, const char* name) {
 }  // namespace
 
 frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent), settings_(settings) {
+  addHelpKey(this, "search.html");
   setObjectName("frmSearch");
   setWindowTitle("Search And Replace");
   setWindowModality(Qt::ApplicationModal);
@@ -97,11 +100,11 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
   auto* buttons = new QVBoxLayout;
   for (QPushButton* b : {cmdOK_, cmdReplaceAll_, cmdHighlight_, cmdUndo_, cmdCancel_}) buttons->addWidget(b);
   buttons->addStretch();
-  connect(cmdOK_, &QPushButton::clicked, this, &frmSearch::onOK);
-  connect(cmdReplaceAll_, &QPushButton::clicked, this, &frmSearch::onReplaceAll);
-  connect(cmdHighlight_, &QPushButton::clicked, this, &frmSearch::onHighlight);
-  connect(cmdUndo_, &QPushButton::clicked, this, &frmSearch::onUndo);
-  connect(cmdCancel_, &QPushButton::clicked, this, &frmSearch::onCancel);
+  connect(cmdOK_, &QPushButton::clicked, this, guarded([this] { onOK(); }));
+  connect(cmdReplaceAll_, &QPushButton::clicked, this, guarded([this] { onReplaceAll(); }));
+  connect(cmdHighlight_, &QPushButton::clicked, this, guarded([this] { onHighlight(); }));
+  connect(cmdUndo_, &QPushButton::clicked, this, guarded([this] { onUndo(); }));
+  connect(cmdCancel_, &QPushButton::clicked, this, guarded([this] { onCancel(); }));
 
   auto* help = new QLabel(kSearchHelpLine, this);
   help->setObjectName("lblHelp");

@@ -47,7 +47,11 @@ void QtPassMonitor::progressEnd() {
     form_->hide();
     form_.reset();
     // The keys go back where they were typed before the pass (the document, as a rule).
-    if (focusBefore_) focusBefore_->setFocus(Qt::OtherFocusReason);
+    // Closing the modal form leaves no window active, so activate the typing window first.
+    if (focusBefore_) {
+      focusBefore_->window()->activateWindow();
+      focusBefore_->setFocus(Qt::OtherFocusReason);
+    }
   } else if (bar_) {
     bar_->hide();
   }

@@ -1,0 +1,1 @@
+If "abc" Then WriteLine "no"   ' expect error 13

@@ -1,0 +1,1 @@
+x = .Foo   ' expect error 505
