@@ -6,7 +6,8 @@
 #include <cstdio>
 
 #include "commands.h"
-#include "extend/toolpath/scheme_reading.h"
+#include "format/pass_frame.h"
+#include "workspace/toolpath_reading.h"
 #include "extend/verify/motion_compare.h"
 #include "format/scheme_data_file.h"
 #include "options.h"
@@ -38,8 +39,8 @@ int cmdVerify(const Args& args) {
   verify::CompareOptions options;
   try {
     const auto comment = p.value("--comment");
-    options.model.reader = toolpath::readerOptionsFor(loadScheme(p.valueOr("--data", bundledDataFilePath()), n),
-                                                      comment ? &*comment : nullptr);
+    const SchemeRecord scheme = loadScheme(p.valueOr("--data", bundledDataFilePath()), n);
+    options.model.reader = toolpathReaderOptions(makePassFrame(scheme, comment ? &*comment : nullptr));
   } catch (const DataFileProblem& e) {
     std::fprintf(stderr, "%s\n", e.what());
     return kExitRefused;

@@ -28,5 +28,8 @@ mkdir -p "$work" "$findings"
 regressions="$here/tests/fuzz/regressions/$target"
 extra=()
 [[ -d "$regressions" ]] && extra+=("$regressions")
+# The macro language's own test scripts are seeds of the macro engine too (libFuzzer reads
+# folders at any depth).
+[[ "$target" == macro_engine ]] && extra+=("$here/tests/vbs/scripts")
 exec "$build/fuzz_$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
   -artifact_prefix="$findings/" "$@" "$work" "$seeds" "${extra[@]}"

@@ -21,11 +21,12 @@ using lathwick::fuzz::Target;
 struct NamedTarget {
   const char* name;  // the folder under corpus/ and regressions/
   Target run;
+  const char* moreSeeds = nullptr;  // a folder of tests/ whose files (at any depth) seed it too
 };
 
 const NamedTarget kTargets[] = {
     {"rtf_reader", lathwick::fuzz::rtfReader},
-    {"macro_engine", lathwick::fuzz::macroEngine},
+    {"macro_engine", lathwick::fuzz::macroEngine, "vbs/scripts"},  // the language's own test scripts
     {"colorizer", lathwick::fuzz::colorizer},
     {"passes", lathwick::fuzz::passes},
     {"scheme_data_file", lathwick::fuzz::schemeDataFile},
@@ -37,7 +38,7 @@ void PrintTo(const NamedTarget& target, std::ostream* os) { *os << target.name; 
 std::vector<fs::path> inputsUnder(const fs::path& folder) {
   std::vector<fs::path> files;
   if (fs::is_directory(folder))
-    for (const auto& entry : fs::directory_iterator(folder))
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
       if (entry.is_regular_file()) files.push_back(entry.path());
   std::sort(files.begin(), files.end());
   return files;
@@ -64,6 +65,9 @@ TEST_P(FuzzReplay, SeedCorpusAndRegressionsRunClean) {
   const fs::path root = LATHWICK_FUZZ_DIR;
   EXPECT_GT(replay(GetParam(), root / "corpus" / GetParam().name), 0u) << "no seed corpus";
   replay(GetParam(), root / "regressions" / GetParam().name);
+  if (GetParam().moreSeeds) {
+    EXPECT_GT(replay(GetParam(), root.parent_path() / GetParam().moreSeeds), 0u);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Targets, FuzzReplay, ::testing::ValuesIn(kTargets),

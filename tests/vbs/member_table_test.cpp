@@ -29,9 +29,8 @@ constexpr MemberRow<Machine> kMachineMembers[] = {
     {"Pad", MemberKind::Method, 1, 2,
      [](Machine&, HostArgs& a) {
        const size_t width = a.size() > 1 ? static_cast<size_t>(a[1].intValue()) : 4;
-       std::string s = a[0].strValue();
-       while (s.size() < width) s.insert(0, "0");
-       return Variant::str(s);
+       const std::string s = a[0].strValue();
+       return Variant::str(std::string(s.size() < width ? width - s.size() : 0, '0') + s);
      }},
 };
 

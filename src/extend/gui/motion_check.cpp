@@ -19,7 +19,8 @@ std::string checkMotionAfterPass(TransformTarget& target, PassKind kind) {
   const auto after = readWholeFile(afterPath);
   if (!after) return {};
   toolpath::ModelOptions model;
-  model.reader.comment = commentDelimitersFor(target.commentStartText());
+  const CommentDelimiters comment = commentDelimitersFor(target.commentStartText());
+  model.reader.comment = {comment.open, comment.close, comment.active};
   const verify::MotionVerdict v = kind == PassKind::KeepsMotion ? verify::verdictAfterPass(*before, *after, model)
                                                                 : verify::verdictAfterOperate(*before, *after, model);
   target.setStatusText(v.text);

@@ -1,1 +1,0 @@
-x = 1 +   ' expect error 1002

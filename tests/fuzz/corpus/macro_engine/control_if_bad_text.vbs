@@ -1,1 +1,0 @@
-If "abc" Then WriteLine "no"   ' expect error 13

@@ -1,1 +1,0 @@
-x = .Foo   ' expect error 505

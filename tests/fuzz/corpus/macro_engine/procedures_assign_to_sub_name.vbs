@@ -1,3 +1,0 @@
-Sub S()
-End Sub
-S = 5   ' expect error 501
