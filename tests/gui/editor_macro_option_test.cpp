@@ -23,7 +23,7 @@ TEST(EditorMacroOption, RunsMainOverTheOpenFileAndCloses) {
   TempDir config, files;
   const std::string program = files.write("p.nc", "N10 G00 X1\r\nN20 M30\r\n");
   const std::string script = files.write(
-      "m.vbs", "Sub Main()\r\n  SelStart = 11\r\n  If LineNumber <> 1 Then Err.Raise 5\r\n  SelLength = 3\r\n"
+      "m.vbs", "Sub Main()\r\n  SelStart = 12\r\n  If LineNumber <> 1 Then Err.Raise 5\r\n  SelLength = 3\r\n"
                "  SelText = \"N25\"\r\n  Save\r\nEnd Sub\r\n");
   EXPECT_EQ(runEditor(config, script, program, files.file("err")), 0) << files.read("err");
   EXPECT_EQ(files.read("p.nc"), "N10 G00 X1\r\nN25 M30\r\n");
