@@ -28,8 +28,10 @@ HeadlessDocument::HeadlessDocument(HeadlessWorkspace& workspace, const std::stri
 void HeadlessDocument::loadRich(const std::string& path) {
   const RtfDocument doc = readRtfFile(path);
   table_ = StyleTable{};
-  styling_ = styleDocument(doc, table_);
-  text_ = doc.text;
+  DocumentStyling styling = styleDocument(doc, table_);
+  styles_.assign(std::move(styling.styles));
+  strikeouts_ = std::move(styling.strikeouts);
+  text_.assign(doc.text);
   startsValid_ = false;
   indentTwips_ = doc.indentTwips;
 }
@@ -46,9 +48,10 @@ void HeadlessDocument::load(const std::string& path) {
 }
 
 void HeadlessDocument::loadPlain(std::string bytes) {
-  text_ = std::move(bytes);
+  text_.assign(std::move(bytes));
   startsValid_ = false;
-  styling_ = DocumentStyling{};
+  styles_.assign({});
+  strikeouts_.clear();
   table_ = StyleTable{};
   indentTwips_ = 0;
 }
@@ -68,11 +71,11 @@ void HeadlessDocument::replaceSelection(std::string_view text) {
   const auto length = static_cast<std::size_t>(selLength_);
   textChanged(selStart_, selLength_, text);
   text_.replace(start, length, text);
-  if (!styling_.styles.empty()) {
+  if (!styles_.empty()) {
     // New text takes the style of the character before it, as typing does.
-    const char style = start > 0 ? styling_.styles[start - 1] : '\0';
-    styling_.styles.replace(start, length, std::string(text.size(), style));
-    std::erase_if(styling_.strikeouts, [&](const TextRange& r) { return r.end > start; });
+    const char style = start > 0 ? styles_[start - 1] : '\0';
+    styles_.replace(start, length, std::string(text.size(), style));
+    std::erase_if(strikeouts_, [&](const TextRange& r) { return r.end > start; });
   }
   setSelection(selStart_, static_cast<long>(text.size()));
 }
@@ -104,11 +107,13 @@ const std::vector<long>& HeadlessDocument::lineStarts() const {
 // Called before `removed` characters at `at` are replaced by `inserted`.
 void HeadlessDocument::textChanged(long at, long removed, std::string_view inserted) {
   if (!startsValid_) return;
-  const std::string_view gone(text_.data() + at, static_cast<std::size_t>(removed));
+  const std::string gone = text_.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(removed));
   const auto breaks = [](std::string_view s) { return s.find_first_of("\r\n") != std::string_view::npos; };
-  // A break next to the edit may join with an inserted or removed one (CR then LF).
-  const auto breakAt = [&](long i) { return i >= 0 && i < textLength() && (text_[i] == '\r' || text_[i] == '\n'); };
-  if (breaks(gone) || breaks(inserted) || (breakAt(at - 1) && breakAt(at + removed))) {
+  // An edit between a CR and an LF joins them into one break when it leaves nothing there, and
+  // parts them when it inserts text; either way the line count changes. Every other edit that
+  // neither adds nor removes a break keeps the lines, only moving the starts after it.
+  const auto charAt = [&](long i) { return i >= 0 && i < textLength() ? text_[static_cast<std::size_t>(i)] : '\0'; };
+  if (breaks(gone) || breaks(inserted) || (charAt(at - 1) == '\r' && charAt(at + removed) == '\n')) {
     startsValid_ = false;
     return;
   }
@@ -177,10 +182,12 @@ bool HeadlessDocument::save() {
 bool HeadlessDocument::saveAs(const std::string& path) {
   try {
     if (isRichTextName(path)) {
-      const StyledTextView view{text_, styling_.styles, &styling_.strikeouts, indentTwips_};
+      const std::string text = text_.str();
+      const std::string styles = styles_.str();
+      const StyledTextView view{text, styles, &strikeouts_, indentTwips_};
       writeRtfFile(path, view, table_);
     } else {
-      writeFileAtomically(path, text_);
+      writeFileAtomically(path, text_.str());
     }
   } catch (const std::exception& e) {
     workspace_.messageBox(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
@@ -210,7 +217,7 @@ void HeadlessDocument::setScheme(const std::string& name) {
 
 bool HeadlessDocument::writeInput(const std::string& path) {
   try {
-    writeFileAtomically(path, text_);
+    writeFileAtomically(path, text_.str());
     return true;
   } catch (const std::exception&) {
     return false;

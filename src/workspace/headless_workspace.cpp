@@ -86,7 +86,7 @@ void HeadlessDocument::colorize(ColorizeRun run) {
   const std::string in = workspace_.inputWorkFile(), out = workspace_.outputWorkFile();
   if (!writeInput(in)) return;  // no input file: the run does nothing and says nothing
   if (run == ColorizeRun::Reload) {
-    loadPlain(text_);
+    loadPlain(text_.str());
     return;
   }
   const SchemeRecord scheme = loadScheme(workspace_.dataFile(), workspace_.currentScheme());

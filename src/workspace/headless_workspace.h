@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "document/gap_text.h"
 #include "document/rtf_styling.h"
 #include "document/style_table.h"
 #include "transform/operate.h"
@@ -23,7 +24,7 @@ class HeadlessDocument : public WorkspaceDocument {
   // Loads `path` (rich text when its name ends in .RTF); throws AppError when it cannot.
   HeadlessDocument(HeadlessWorkspace& workspace, const std::string& path);
 
-  std::string text() const override { return text_; }
+  std::string text() const override { return text_.str(); }
   long textLength() const override { return static_cast<long>(text_.size()); }
   std::string textRange(long start, long length) const override;
   long selectionStart() const override { return selStart_; }
@@ -59,8 +60,9 @@ class HeadlessDocument : public WorkspaceDocument {
 
   HeadlessWorkspace& workspace_;
   std::string fileName_;
-  std::string text_;
-  DocumentStyling styling_;  // empty styles: plain text, all in the default style
+  GapText text_;
+  GapText styles_;               // one style byte per character; empty: plain text, all default
+  std::vector<TextRange> strikeouts_;
   StyleTable table_;
   int indentTwips_ = 0;
   long selStart_ = 0, selLength_ = 0;
