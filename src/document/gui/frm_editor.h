@@ -109,6 +109,7 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
 
   // What commands and scripts see of the document (the rest is shared with the dialogs' view).
   std::string text() const override;
+  std::string textRange(long start, long length) const override;
   void setSelection(long start, long length) override;
   long lineIndex(long line) const override;
   long lineLength(long line) const override;

@@ -21,6 +21,9 @@ std::string frmEditor::selectedText() const { return text_->selText(); }
 long frmEditor::lineFromChar(long position) const { return text_->lineFromChar(static_cast<int>(position)); }
 long frmEditor::lineCount() const { return text_->lineCount(); }
 std::string frmEditor::text() const { return text_->text(); }
+std::string frmEditor::textRange(long start, long length) const {
+  return text_->textRange(static_cast<int>(start), static_cast<int>(length));
+}
 void frmEditor::setSelection(long start, long length) {
   text_->setSelection(static_cast<int>(start), static_cast<int>(length));
 }

@@ -124,6 +124,16 @@ void RichTextBox::setSelLength(long length) {
   SendScintilla(SCI_SETSEL, start, end);
 }
 
+std::string RichTextBox::textRange(long start, long length) const {
+  const long size = textLength();
+  start = std::clamp(start, 0L, size);
+  length = std::clamp(length, 0L, size - start);
+  std::string out(static_cast<std::size_t>(length) + 1, '\0');
+  SendScintilla(SCI_GETTEXTRANGE, start, start + length, out.data());
+  out.resize(static_cast<std::size_t>(length));
+  return out;
+}
+
 std::string RichTextBox::selText() const {
   const long start = selStart();
   const long length = selLength();

@@ -50,6 +50,7 @@ class RichTextBox : public QsciScintilla {
   long selLength() const;
   void setSelLength(long length);   // from the selection start
   std::string selText() const;
+  std::string textRange(long start, long length) const;
   void setSelText(std::string_view text);  // replaces the selection, in the format before it
   std::string selRtf() const;              // the selection as rich text
   void setSelRtf(std::string_view rtf);    // replaces the selection with rich text

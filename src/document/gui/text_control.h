@@ -28,6 +28,8 @@ class TextControl : public QObject {
   // selection length correction).
   virtual int selLength() const = 0;
   virtual std::string selText() const = 0;
+  // `length` characters from `start`, clipped to the text.
+  virtual std::string textRange(int start, int length) const = 0;
   virtual void setSelection(int start, int length) = 0;
   virtual void replaceSelection(const std::string& bytes) = 0;
 
