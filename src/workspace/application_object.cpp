@@ -93,7 +93,14 @@ constexpr MemberRow<App> kApplicationMembers[] = {
      [](App& app, HostArgs&) { return onDocument(app, [](WorkspaceDocument& d) { return Variant::str(d.selectedText()); }); }},
     {"SelText", MemberKind::Let, 0, 0,
      [](App& app, HostArgs& a) {
-       return onDocument(app, [&](WorkspaceDocument& d) { d.replaceSelection(textOf(a.back())); return none(); });
+       // As in a text box: the text replaces the selection and the caret goes after it.
+       return onDocument(app, [&](WorkspaceDocument& d) {
+         const std::string text = textOf(a.back());
+         const long start = d.selectionStart();
+         d.replaceSelection(text);
+         d.setSelection(start + static_cast<long>(text.size()), 0);
+         return none();
+       });
      }},
     {"SelLength", MemberKind::Get, 0, 0,
      [](App& app, HostArgs&) { return onDocument(app, [](WorkspaceDocument& d) { return Variant::longv(static_cast<int32_t>(d.selectionLength())); }); }},

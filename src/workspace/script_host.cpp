@@ -140,6 +140,7 @@ void ScriptHost::finishRun() {
     resetPending_ = false;
     loadMainScript();
   }
+  if (afterRun_) afterRun_();
 }
 
 std::optional<vbs::ErrorRecord> ScriptHost::runUnattended(const std::string& text, const std::string& label,

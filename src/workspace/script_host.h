@@ -82,8 +82,11 @@ class ScriptHost {
   // While a macro runs; interrupt() stops it with "Script interrupted".
   bool running() const { return depth_ > 0; }
   void interrupt() { engine_.interrupt(); }
+  // Called when the outermost run has ended: a window that held back its menu and status
+  // updates while the script worked brings them up to date once.
+  void setAfterRun(std::function<void()> afterRun) { afterRun_ = std::move(afterRun); }
 
- // Registers "Application" (loadMainScript does it; a batch run that adds its own script does
+  // Registers "Application" (loadMainScript does it; a batch run that adds its own script does
   // it itself).
   void addApplication();
 
@@ -96,6 +99,7 @@ class ScriptHost {
   std::string scriptFolder_;
   vbs::Engine engine_;
   vbs::UiCallbacks ui_;
+  std::function<void()> afterRun_;
   int depth_ = 0;             // runs under way (a macro may load code or call a hook)
   bool dropPending_ = false;  // an error inside a run: drop all code when it ends
   bool resetPending_ = false; // Reset Code inside a run: done when it ends

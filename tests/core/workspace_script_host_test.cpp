@@ -147,7 +147,7 @@ TEST_F(ScriptHostTest, MembersActOnTheDocument) {
   EXPECT_EQ(run("SelStart = 3 : MsgBox \"[\" & LineText & \"]\" & LineNumber & \"/\" & LineCount"), "[]0/4\n");
   EXPECT_EQ(run("SelStart = 35 : MsgBox \"[\" & LineText & \"]\" & LineNumber"), "[\nN30 M30]2\n");
   EXPECT_EQ(run("SelStart = 4 : SelLength = 3 : MsgBox SelText : SelText = \"G0\" : MsgBox SelStart & \",\" & SelLength"),
-            "G00\n4,2\n");
+            "G00\n6,0\n");
   EXPECT_EQ(doc.text(), "N10 G0 X1 Y2\r\nN20 G01 X2.5 F100\r\nN30 M30\r\n");
   run("Text = \"G00 X1\" & vbCrLf & \"M30\"");
   EXPECT_EQ(doc.text(), "G00 X1\r\nM30");

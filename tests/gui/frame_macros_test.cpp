@@ -146,3 +146,25 @@ TEST_F(FrameMacros, KeyRecordingWritesSpecialKeysAfterTheTypedText) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(FrameMacros, SelTextLeavesTheCaretAfterItAndTheWindowCatchesUpWhenTheMacroEnds) {
+  app.write("Script/main.vbs",
+            "Sub V_Walk()\r\n  SelStart = Len(Text) - 2 : SelText = \"X\" : SelText = \"Y\"\r\n"
+            "  SelStart = SelStart - 2 : SelLength = 2\r\nEnd Sub\r\n");
+  start();
+  std::string program;
+  for (int i = 0; i < 400; ++i) program += "G01 X" + std::to_string(i) + "\r\n";
+  gui::frmEditor* e = openFile(files.write("long.nc", program));
+  ASSERT_NE(e, nullptr);
+  EXPECT_FALSE(frame->menuAction("mnuCut")->isEnabled());
+  execute("&Walk");
+  EXPECT_EQ(text().substr(text().size() - 8), "X399XY\r\n");
+  EXPECT_EQ(e->rtfTextBox().selText(), "XY");
+  // Held back while the macro ran: the view shows the caret and Cut follows the selection.
+  EXPECT_GT(e->rtfTextBox().firstVisibleLine(), 300);
+  EXPECT_TRUE(frame->menuAction("mnuCut")->isEnabled());
+}
+
+}  // namespace

@@ -53,6 +53,8 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
 
   void ShowLineNum();
   void En_Dis_able();
+  // A script has finished: the view shows the caret again and the menus catch up.
+  void scriptEnded();
   void Form_Activate();
   bool Save();  // false when nothing was saved
 

@@ -40,6 +40,8 @@ int RichTextControl::selLength() const { return static_cast<int>(box_->selLength
 std::string RichTextControl::selText() const { return box_->selText(); }
 std::string RichTextControl::textRange(int start, int length) const { return box_->textRange(start, length); }
 
+void RichTextControl::holdCaretScrolling(bool hold) { box_->holdCaretScrolling(hold); }
+
 void RichTextControl::setSelection(int start, int length) {
   box_->setSelStart(start);
   box_->setSelLength(length);

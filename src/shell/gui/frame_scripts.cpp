@@ -117,6 +117,10 @@ FrameScripts::FrameScripts(MDIForm1& frame, const std::string& scriptFolder)
   // The window repaints and Esc arrives while a long macro runs.
   ui.poll = [] { QCoreApplication::processEvents(QEventLoop::AllEvents, 20); };
   host_->setUi(std::move(ui));
+  host_->setAfterRun([this] {
+    for (frmEditor* editor : frame_.editors()) editor->scriptEnded();
+    if (!frame_.activeEditor()) frame_.En_Dis_able();
+  });
 }
 
 FrameScripts::~FrameScripts() = default;

@@ -130,6 +130,7 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void setPanelText(const std::string& panel, const std::string& text) override;
   void setOverwrite(bool overwrite) override;
   void refreshCommandStates() override { En_Dis_able(); }
+  bool scriptRunning() const override;
   void forgetEditor(frmEditor& window) override;
 
   // The script host, made by load(); nullptr before.

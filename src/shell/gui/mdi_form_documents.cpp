@@ -85,6 +85,8 @@ std::string upperCased(std::string s) {
 }
 }  // namespace
 
+bool MDIForm1::scriptRunning() const { return scripts_ && scripts_->host().running(); }
+
 void MDIForm1::callLoadDoc(const std::string& fileName) {
   if (scripts_) scripts_->host().callHook("LoadDoc", {vbs::Variant::str(fileName)});
 }
