@@ -168,3 +168,41 @@ TEST_F(FrameMacros, SelTextLeavesTheCaretAfterItAndTheWindowCatchesUpWhenTheMacr
 }
 
 }  // namespace
+
+namespace {
+
+// The members the other tests do not reach, each run from the Macro menu over a real window.
+TEST_F(FrameMacros, TheRestOfTheMembersActOnTheWindowAndItsDocument) {
+  app.write("Script/main.vbs",
+            "Sub V_Lines()\r\n  SelStart = 12 : t = \"[\" & LineText & \"]\" & LineNumber & \"/\" & LineCount\r\n"
+            "  SelStart = 0 : t = t & \"[\" & LineText & \"]\" & LikeString(\"G01\", \"G0?\") & Fmt(1.5, \"0.00\")\r\n"
+            "  Text = t\r\nEnd Sub\r\n"
+            "Sub V_Spaces()\r\n  RemoveSpaces\r\nEnd Sub\r\n"
+            "Sub V_Tools()\r\n  ToolButtonsVisible = False\r\nEnd Sub\r\n"
+            "Sub V_Open()\r\n  DlgOpen\r\nEnd Sub\r\n"
+            "Sub V_Colour()\r\n  Colorize 1\r\nEnd Sub\r\n");
+  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
+  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
+  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  start();
+  gui::frmEditor* e = openFile(files.write("p.nc", "G00 X1 Y2\r\nG01 Z-1\r\nM30\r\n"));
+  ASSERT_NE(e, nullptr);
+  execute("&Spaces");
+  EXPECT_EQ(text(), "G00X1Y2\r\nG01Z-1\r\nM30\r\n");
+  execute("&Colour");
+  EXPECT_TRUE(e->FileUndoable());  // a colour run went through the work files and can be undone
+  EXPECT_TRUE(dialogs.messages.empty());
+  execute("&Lines");  // line 1 starts at 9 now; its LineText begins with the LF before it
+  EXPECT_EQ(text(), "[\nG01Z-1]1/4[]31.50");
+
+  execute("&Tools");
+  for (const char* key : {"New", "Open", "Help"}) EXPECT_TRUE(frame->toolButton(key)->isVisible()) << key;
+  for (const char* key : {"Save", "Print", "Codes", "Renumber"}) EXPECT_FALSE(frame->toolButton(key)->isVisible()) << key;
+
+  dialogs.files.push_back(files.write("second.nc", "N1 G00\r\n"));
+  execute("&Open");
+  ASSERT_EQ(frame->editors().size(), 2u);
+  EXPECT_EQ(frame->activeEditor()->text(), "N1 G00\r\n");
+}
+
+}  // namespace
