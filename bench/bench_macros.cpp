@@ -4,7 +4,9 @@
 // start).
 #include <benchmark/benchmark.h>
 
+#include <chrono>
 #include <sstream>
+#include <thread>
 
 #include "generated_program.h"
 #include "format/scheme_data_file.h"
@@ -72,6 +74,38 @@ BENCHMARK(BM_VisitEveryLine)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 void BM_RewriteEveryLine(benchmark::State& state) { runMacro(state, kRewrite); }
 BENCHMARK(BM_RewriteEveryLine)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// From Esc (an interrupt from another thread) to the macro's end, for a loop that does nothing
+// and for one that doubles a string: both must stop within 100 ms.
+void runInterrupted(benchmark::State& state, const char* code) {
+  std::ostringstream out;
+  std::istringstream in;
+  HeadlessWorkspace workspace(HeadlessSettings{bundledDataFilePath(), 1, ""}, out, in);
+  NoWindow window;
+  for (auto _ : state) {
+    ScriptHost host(workspace, window, "");
+    host.addApplication();
+    std::chrono::steady_clock::time_point pressed;
+    std::thread esc([&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(150));
+      pressed = std::chrono::steady_clock::now();
+      host.interrupt();
+    });
+    const auto error = host.runUnattended(code, "bench", "Main");
+    const auto stopped = std::chrono::steady_clock::now();
+    esc.join();
+    if (!error || error->description != "Script interrupted") state.SkipWithError("the macro was not interrupted");
+    state.SetIterationTime(std::chrono::duration<double>(stopped - pressed).count());
+  }
+}
+
+void BM_EscStopsAnEmptyLoop(benchmark::State& state) { runInterrupted(state, "Sub Main()\n  Do\n  Loop\nEnd Sub\n"); }
+BENCHMARK(BM_EscStopsAnEmptyLoop)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void BM_EscStopsStringDoubling(benchmark::State& state) {
+  runInterrupted(state, "Sub Main()\n  s = \"x\"\n  Do\n    s = s & s\n    If Len(s) > 100000000 Then s = \"x\"\n  Loop\nEnd Sub\n");
+}
+BENCHMARK(BM_EscStopsStringDoubling)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
 
 // The bundled main.vbs read, compiled and run, with "Application" added.
 void BM_LoadBundledMainScript(benchmark::State& state) {
