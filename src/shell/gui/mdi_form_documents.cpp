@@ -68,6 +68,7 @@ void MDIForm1::forgetWindow(int index) {
   if (it == windows_.end()) return;
   frmEditor* editor = it->second;
   windows_.erase(it);
+  emit documentClosed(editor);
   if (documents_.valid(index)) documents_.release(index);
   if (menusShownFor_ == editor) showMenusOf(nullptr);
   if (windows_.empty()) {
@@ -123,6 +124,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     recentListUpdate(fileName);
     record.changed = false;
     editor->ShowLineNum();
+    emit documentRead(editor);
     // The script procedure "LoadDoc" is called here once macros are available.
     return editor;
   } catch (const AppError& e) {
@@ -156,6 +158,7 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   // Saving "MAIN.VBS" reloads the macros once the script host is there.
   record.changed = false;
   recentListUpdate(fileName);
+  emit documentWritten(&window);
   return true;
 }
 
