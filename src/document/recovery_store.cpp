@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "platform/atomic_file.h"
 #include "platform/errors.h"
 #include "platform/file_system.h"
 
@@ -130,8 +129,16 @@ std::string RecoverySession::textPathOf(int id, RecoveredKind kind) const {
 }
 
 void RecoverySession::write(int id, RecoveryIndex index, std::string_view text) const {
+  write(id, std::move(index), [text](AtomicFileWriter& file) { file.write(text); });
+}
+
+void RecoverySession::write(int id, RecoveryIndex index, const std::function<void(AtomicFileWriter&)>& fill) const {
   const std::string textPath = textPathOf(id, index.kind);
-  writeFileAtomically(textPath, text);
+  {
+    AtomicFileWriter file(textPath);
+    fill(file);
+    file.commit();
+  }
   index.textFile = fs::path(textPath).filename().string();
   writeFileAtomically(indexPathOf(id), encodeRecoveryIndex(index));
   // A document saved under another kind since its last copy leaves no copy of the old kind.

@@ -7,12 +7,14 @@
 // and removes it at a clean exit. A session whose editor no longer runs (its lock stale or gone)
 // holds what is to be offered at the next start. Every file is written through a temporary
 // file and a rename, flushed to the disk.
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "document/recovery_index.h"
+#include "platform/atomic_file.h"
 #include "platform/process_identity.h"
 
 namespace lathwick {
@@ -55,6 +57,8 @@ class RecoverySession {
   // The copy of document `id`: the text first, then its index (whose text name is filled in).
   // Throws AppError when a file cannot be written. Callable from a worker thread.
   void write(int id, RecoveryIndex index, std::string_view text) const;
+  // The same with the text written in pieces by `fill` (a large rich text never whole in memory).
+  void write(int id, RecoveryIndex index, const std::function<void(AtomicFileWriter&)>& fill) const;
   // The document was saved, closed or discarded: its copy goes.
   void remove(int id) const;
   bool hasDocuments() const;

@@ -13,6 +13,7 @@
 #include <filesystem>
 
 #include "document/document_table.h"
+#include "document/rtf_reader.h"
 #include "frame_fixture.h"
 #include "shell/gui/frm_recover.h"
 #include "shell/gui/recovery_controller.h"
@@ -228,4 +229,33 @@ TEST_F(RecoveryTest, TheDialogListsEachDocumentTickedWithItsFileAndTime) {
   EXPECT_EQ(dialog.choice(), RecoveryChoice::Discard);
   EXPECT_EQ(dialog.ticked(), (std::vector<bool>{false, true}));
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(RecoveryTest, LargeDocumentsAreCopiedWholeAndAnEditWhileTakingOneWaitsForTheNextQuietPeriod) {
+  std::string program;
+  for (int n = 1; program.size() < 3 * gui::RecoveryCopier::kSmallCopy; ++n)
+    program += "N" + std::to_string(n) + " G01 X" + std::to_string(n % 997) + ".5 Y-12.25 F300\r\n";
+  const std::string path = files.write("LARGE.NC", program);
+  install();
+  gui::frmEditor* e = openFile(path);
+  e->replaceSelection("(EDITED)\r\n");
+  recovery->copyChangedDocuments();
+  ASSERT_EQ(copies().size(), 1u);
+  EXPECT_EQ(copiedText(copies()[0]), "(EDITED)\r\n" + program);
+
+  // Kept as rich text from now on: taken in pieces, text and formats, written as rich text.
+  e->record().fileName = files.file("LARGE.RTF");
+  e->setSelection(0, 0);
+  e->replaceSelection("(RICH)\r\n");
+  recovery->copyChangedDocuments();
+  e->setSelection(0, 0);
+  e->replaceSelection("(AGAIN)\r\n");  // before the copy could be taken: it is given up
+  recovery->flush();
+  ASSERT_EQ(copies().size(), 1u);
+  EXPECT_EQ(copies()[0].kind, RecoveredKind::Plain) << "the plain copy stands until a rich one is made";
+  recovery->copyChangedDocuments();  // the next quiet period
+  const auto kept = copies();
+  ASSERT_EQ(kept.size(), 1u);
+  EXPECT_EQ(kept[0].kind, RecoveredKind::Rich);
+  EXPECT_EQ(readRtf(copiedText(kept[0])).text, e->text());
 }

@@ -30,6 +30,7 @@ RecoveryController::RecoveryController(MDIForm1& frame, const std::string& root,
   writer_ = std::make_unique<BackgroundQueue>([this](const std::string& message) {
     QMetaObject::invokeMethod(this, [this, message] { reportFailure(message); }, Qt::QueuedConnection);
   });
+  copier_ = new RecoveryCopier(*session_, *writer_, this);
   quiet_.setSingleShot(true);
   connect(&quiet_, &QTimer::timeout, this, [this] {
     firstUncopiedEdit_.invalidate();
@@ -40,7 +41,7 @@ RecoveryController::RecoveryController(MDIForm1& frame, const std::string& root,
   connect(&frame_, &MDIForm1::documentClosed, this, [this](frmEditor* editor) { dropCopy(editor, true); });
   // Quitting without the close query (the session ending): what is still changed is copied
   // before the windows go, to be offered at the next start.
-  connect(qApp, &QCoreApplication::aboutToQuit, this, &RecoveryController::copyChangedDocuments);
+  connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { copyChangedDocuments(true); });
   for (frmEditor* editor : frame_.editors()) track(editor);
 }
 
@@ -69,21 +70,23 @@ void RecoveryController::onEdit(frmEditor* editor) {
     quiet_.start(0);
 }
 
-void RecoveryController::copyChangedDocuments() {
+void RecoveryController::copyChangedDocuments(bool now) {
   for (auto& [editor, tracked] : tracked_) {
     if (!frame_.documents().valid(editor->tag())) continue;
     const DocumentRecord& record = editor->record();
     if (record.changed && tracked.edits != tracked.copied) {
-      copyDocument(*editor, tracked);
+      copyDocument(*editor, tracked, now);
     } else if (!record.changed && tracked.hasCopy) {
       const int id = tracked.id;
       writer_->post(id, [session = session_.get(), id] { session->remove(id); });
       tracked.hasCopy = false;
     }
   }
+  releaseSpareWhenNothingChanged();
 }
 
-void RecoveryController::copyDocument(frmEditor& editor, Tracked& tracked) {
+void RecoveryController::copyDocument(frmEditor& editor, Tracked& tracked, bool now) {
+  if (tracked.taking) return;
   const DocumentRecord& record = editor.record();
   RecoveryIndex index;
   index.originalPath = originalPathOf(record);
@@ -92,28 +95,56 @@ void RecoveryController::copyDocument(frmEditor& editor, Tracked& tracked) {
   index.lineEnds = record.lineEnds;
   // What Save would write decides the kind: formats are kept only where the file keeps them.
   index.kind = isRichTextName(record.fileName) ? RecoveredKind::Rich : RecoveredKind::Plain;
-  // The one copy of the text made on this thread; the worker writes it and lets it go.
-  std::string text = index.kind == RecoveredKind::Rich ? editor.richTextBox().rtf()
-                                                       : std::string(editor.richTextBox().characterView());
-  const int id = tracked.id;
-  writer_->post(id, [session = session_.get(), id, index = std::move(index), text = std::move(text)] {
-    session->write(id, index, text);
-  });
-  tracked.copied = tracked.edits;
-  tracked.hasCopy = true;
+  const unsigned long long edits = tracked.edits;
+  frmEditor* key = &editor;
+  tracked.taking = true;
+  copier_->take(
+      tracked.id, editor.richTextBox(), index,
+      [this, key, edits] {
+        auto it = tracked_.find(key);
+        return it != tracked_.end() && it->second.edits == edits;
+      },
+      [this, key, edits](bool taken) {
+        auto it = tracked_.find(key);
+        if (it == tracked_.end()) return;
+        it->second.taking = false;
+        if (!taken) {
+          // Edited while it was being taken: the next quiet period tries again.
+          if (it->second.edits != edits) quiet_.start(timing_.quietMs);
+          return;
+        }
+        it->second.copied = edits;
+        it->second.hasCopy = true;
+      },
+      now);
 }
 
 void RecoveryController::dropCopy(frmEditor* editor, bool forget) {
   auto it = tracked_.find(editor);
   if (it == tracked_.end()) return;
   const int id = it->second.id;
+  copier_->cancel(id);
   writer_->post(id, [session = session_.get(), id] { session->remove(id); });
   it->second.hasCopy = false;
   it->second.copied = it->second.edits;
   if (forget) tracked_.erase(it);
+  releaseSpareWhenNothingChanged();
 }
 
-void RecoveryController::flush() { writer_->flush(); }
+void RecoveryController::releaseSpareWhenNothingChanged() {
+  for (const auto& [editor, tracked] : tracked_)
+    if (tracked.hasCopy || tracked.taking || tracked.edits != tracked.copied) return;
+  copier_->releaseSpare();
+}
+
+void RecoveryController::flush() {
+  for (;;) {
+    writer_->flush();
+    if (!copier_->busy()) break;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+  }
+  writer_->flush();
+}
 
 RecoveryController::Offer RecoveryController::ask(const std::vector<RecoveredDocument>& documents) {
   if (chooser_) return chooser_(documents);

@@ -5,7 +5,8 @@
 //
 // A copy is made a quiet period after the last edit (and at the latest a maximum delay after the
 // first edit not yet copied, for someone who never pauses): the text is taken on this thread,
-// once per quiet period, and written and flushed to the disk on a worker thread. A document
+// once per quiet period, without holding it long (recovery_copier.h), and written and flushed to
+// the disk on a worker thread. A document
 // that is saved, closed or no longer changed loses its copy. Destroying the controller is the
 // clean exit: the session's lock goes, and with it the session when no copy is left.
 #include <QElapsedTimer>
@@ -20,6 +21,7 @@
 #include "document/recovery_store.h"
 #include "platform/background_queue.h"
 #include "shell/gui/frm_recover.h"
+#include "shell/gui/recovery_copier.h"
 
 namespace lathwick::gui {
 
@@ -53,10 +55,14 @@ class RecoveryController : public QObject {
   frmEditor* openRecovered(const RecoveredDocument& document);
 
   // Copies every changed document edited since its last copy and drops the copies of documents
-  // no longer changed; the quiet-period timer calls it.
-  void copyChangedDocuments();
-  // Waits until every copy asked for so far is on the disk.
+  // no longer changed; the quiet-period timer calls it. With `now` large documents are taken at
+  // once rather than over several turns of the event loop (when the program is quitting).
+  void copyChangedDocuments(bool now = false);
+  // Waits until every copy asked for so far is on the disk (letting the event loop run while a
+  // large document is still being taken).
   void flush();
+  // Nothing being taken or written.
+  bool idle() const { return !copier_->busy() && writer_->pending() == 0; }
 
   const RecoverySession& session() const { return *session_; }
   // Tests answer the offer without the dialog.
@@ -68,12 +74,14 @@ class RecoveryController : public QObject {
     unsigned long long edits = 0;   // edits seen
     unsigned long long copied = 0;  // edits the last copy holds
     bool hasCopy = false;
+    bool taking = false;            // its text is being taken
   };
 
   void track(frmEditor* editor);
   void onEdit(frmEditor* editor);
   void dropCopy(frmEditor* editor, bool forget);
-  void copyDocument(frmEditor& editor, Tracked& tracked);
+  void copyDocument(frmEditor& editor, Tracked& tracked, bool now);
+  void releaseSpareWhenNothingChanged();
   Offer ask(const std::vector<RecoveredDocument>& documents);
   void reportFailure(const std::string& message);
 
@@ -82,6 +90,7 @@ class RecoveryController : public QObject {
   RecoveryTiming timing_;
   std::unique_ptr<RecoverySession> session_;
   std::unique_ptr<BackgroundQueue> writer_;  // after the session: its jobs use the session
+  RecoveryCopier* copier_ = nullptr;         // a child of this controller
   std::map<frmEditor*, Tracked> tracked_;
   int nextId_ = 1;
   QTimer quiet_;
