@@ -88,7 +88,7 @@ std::optional<RecoveryIndex> decodeRecoveryIndex(std::string_view bytes) {
 }
 
 std::string recoveredDocumentName(const RecoveryIndex& index) {
-  if (!index.caption.empty()) return index.caption;
+  if (index.originalPath.empty()) return index.caption;
   const std::size_t slash = index.originalPath.find_last_of("/\\");
   return slash == std::string::npos ? index.originalPath : index.originalPath.substr(slash + 1);
 }

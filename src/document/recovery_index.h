@@ -29,8 +29,8 @@ std::string encodeRecoveryIndex(const RecoveryIndex& index);
 // text name that is empty or reaches outside its folder. Unknown keys are passed over.
 std::optional<RecoveryIndex> decodeRecoveryIndex(std::string_view bytes);
 
-// The name a recovered document is offered under: the caption, or the file name when the
-// caption is empty.
+// The name a recovered document is offered under: its file's name, or for a document never saved
+// its caption ("Untitled 2").
 std::string recoveredDocumentName(const RecoveryIndex& index);
 
 }  // namespace lathwick

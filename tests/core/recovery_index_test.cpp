@@ -53,10 +53,11 @@ TEST(RecoveryIndex, RefusesWhatIsNotAnIndex) {
   EXPECT_EQ(extra->lineEnds, LineEnds::CrLf);
 }
 
-TEST(RecoveryIndex, OfferedUnderItsCaptionElseItsFileName) {
+TEST(RecoveryIndex, OfferedUnderItsFileNameElseItsCaption) {
   RecoveryIndex index = sample();
-  EXPECT_EQ(recoveredDocumentName(index), index.caption);
-  index.caption.clear();
   index.originalPath = "/parts/O1000.NC";
   EXPECT_EQ(recoveredDocumentName(index), "O1000.NC");
+  index.originalPath.clear();
+  index.caption = "Untitled 2";
+  EXPECT_EQ(recoveredDocumentName(index), "Untitled 2");
 }

@@ -109,3 +109,17 @@ TEST_F(DiskChangeTest, TheEditorsOwnSaveIsNotAChange) {
   QApplication::processEvents();
   EXPECT_EQ(asked(), 1u);
 }
+
+TEST_F(DiskChangeTest, ADocumentThatCameInAnotherWayIsWatchedFromTheFirstLook) {
+  const std::string path = files.write("O2000.nc", "on disk\r\n");
+  start();
+  watch = gui::installDiskChangeWatch(*frame);
+  trigger("mnuNew");
+  gui::frmEditor* e = frame->activeEditor();
+  e->record().fileName = path;  // as a recovered document is given its own file's name
+  watch->check(*e);
+  EXPECT_EQ(asked(), 0u) << "the file as it is now is where the watch starts";
+  files.write("O2000.nc", "posted while it was open\r\n");
+  watch->check(*e);
+  EXPECT_EQ(asked(), 1u);
+}

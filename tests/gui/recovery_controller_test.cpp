@@ -99,6 +99,12 @@ TEST_F(RecoveryTest, CopiesAChangedDocumentOncePerEditAndDropsItWhenSaved) {
   trigger("mnuSave");
   EXPECT_TRUE(copies().empty());
   EXPECT_EQ(readBytes(path), "G01 X5\nN1 G00 X0\nM30\n");
+
+  // Marked changed without an edit (its file was deleted under it): copied all the same.
+  e->record().changed = true;
+  recovery->copyChangedDocuments();
+  ASSERT_EQ(copies().size(), 1u);
+  EXPECT_EQ(copiedText(copies()[0]), "G01 X5\r\nN1 G00 X0\r\nM30\r\n");
 }
 
 TEST_F(RecoveryTest, ClosingWithoutSavingDropsTheCopyAndACleanExitLeavesNothing) {
@@ -218,6 +224,7 @@ TEST_F(RecoveryTest, TheDialogListsEachDocumentTickedWithItsFileAndTime) {
   EXPECT_NE(std::find(files_.begin(), files_.end(), path), files_.end());
   EXPECT_NE(std::find(files_.begin(), files_.end(), "(never saved)"), files_.end());
   EXPECT_NE(std::find(names.begin(), names.end(), "Untitled 3"), names.end());
+  EXPECT_NE(std::find(names.begin(), names.end(), "O3000.nc"), names.end());
   EXPECT_EQ(dialog.ticked(), (std::vector<bool>{true, true}));
 
   list->topLevelItem(0)->setCheckState(0, Qt::Unchecked);

@@ -74,9 +74,15 @@ void DiskChangeWatch::checkAll() {
 }
 
 void DiskChangeWatch::check(frmEditor& editor) {
-  auto it = stamps_.find(&editor);
-  if (asking_ || frame_.passRunning() || it == stamps_.end()) return;
+  if (asking_ || frame_.passRunning()) return;
   const std::string path = editor.record().fileName;
+  auto it = stamps_.find(&editor);
+  if (it == stamps_.end()) {
+    // A document with a file that came in some other way (a recovered copy, say): watched from
+    // the file as it is now.
+    if (!saveNeedsName(path)) remember(&editor);
+    return;
+  }
   const FileStamp now = fileStampOf(path);
   const DiskChange change = judgeDiskChange(it->second, now);
   if (change == DiskChange::None) return;

@@ -23,7 +23,8 @@ class DiskChangeWatch : public QObject {
 
   // Looks at every document's file, the active document's first.
   void checkAll();
-  // Looks at one document's file (documents never read from or saved to a file have none).
+  // Looks at one document's file (documents never saved to a file have none). A document the
+  // watch has not seen read or saved is watched from its file as it is at this first look.
   void check(frmEditor& editor);
 
  protected:

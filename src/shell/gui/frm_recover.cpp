@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/app_names.h"
 
@@ -51,8 +52,13 @@ frmRecover::frmRecover(const std::vector<RecoveredDocument>& documents, QWidget*
     row->setFlags(row->flags() | Qt::ItemIsUserCheckable);
     row->setCheckState(0, Qt::Checked);
   }
-  for (int column = 0; column < list_->columnCount(); ++column) list_->resizeColumnToContents(column);
-  list_->setMinimumWidth(640);
+  // Wide enough to show every column whole, up to most of a screen.
+  int width = 2 * list_->frameWidth() + 8;
+  for (int column = 0; column < list_->columnCount(); ++column) {
+    list_->resizeColumnToContents(column);
+    width += list_->columnWidth(column);
+  }
+  list_->setMinimumWidth(std::clamp(width, 560, 1100));
   layout->addWidget(list_);
   connect(list_, &QTreeWidget::itemChanged, this, [this] { updateButtons(); });
 

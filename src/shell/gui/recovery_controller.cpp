@@ -36,6 +36,10 @@ RecoveryController::RecoveryController(MDIForm1& frame, const std::string& root,
     firstUncopiedEdit_.invalidate();
     copyChangedDocuments();
   });
+  // Now and then every document is looked at, edited or not.
+  sweep_.setInterval(timing_.maxDelayMs);
+  connect(&sweep_, &QTimer::timeout, this, [this] { copyChangedDocuments(); });
+  sweep_.start();
   connect(&frame_, &MDIForm1::documentWindowCreated, this, &RecoveryController::track);
   connect(&frame_, &MDIForm1::documentWritten, this, [this](frmEditor* editor) { dropCopy(editor, false); });
   connect(&frame_, &MDIForm1::documentClosed, this, [this](frmEditor* editor) { dropCopy(editor, true); });
@@ -74,7 +78,8 @@ void RecoveryController::copyChangedDocuments(bool now) {
   for (auto& [editor, tracked] : tracked_) {
     if (!frame_.documents().valid(editor->tag())) continue;
     const DocumentRecord& record = editor->record();
-    if (record.changed && tracked.edits != tracked.copied) {
+    // A document marked changed without an edit (its file deleted under it) needs a copy too.
+    if (record.changed && (tracked.edits != tracked.copied || !tracked.hasCopy)) {
       copyDocument(*editor, tracked, now);
     } else if (!record.changed && tracked.hasCopy) {
       const int id = tracked.id;

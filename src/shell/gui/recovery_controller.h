@@ -4,7 +4,8 @@
 // editor that ended without closing its documents left behind.
 //
 // A copy is made a quiet period after the last edit (and at the latest a maximum delay after the
-// first edit not yet copied, for someone who never pauses): the text is taken on this thread,
+// first edit not yet copied, for someone who never pauses; and every maximum delay for a document
+// marked changed without an edit): the text is taken on this thread,
 // once per quiet period, without holding it long (recovery_copier.h), and written and flushed to
 // the disk on a worker thread. A document
 // that is saved, closed or no longer changed loses its copy. Destroying the controller is the
@@ -94,6 +95,7 @@ class RecoveryController : public QObject {
   std::map<frmEditor*, Tracked> tracked_;
   int nextId_ = 1;
   QTimer quiet_;
+  QTimer sweep_;
   QElapsedTimer firstUncopiedEdit_;
   Chooser chooser_;
   bool failureShown_ = false;
