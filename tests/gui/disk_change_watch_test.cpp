@@ -123,3 +123,14 @@ TEST_F(DiskChangeTest, ADocumentThatCameInAnotherWayIsWatchedFromTheFirstLook) {
   watch->check(*e);
   EXPECT_EQ(asked(), 1u);
 }
+
+TEST_F(DiskChangeTest, ADocumentGivenAnotherNameIsWatchedUnderTheNewOne) {
+  const std::string path = files.write("O3000.nc", "G00 X0\r\n");
+  gui::frmEditor* e = openWatched(path);
+  // Save As Rich Text renames the document even when its dialog is cancelled: the missing
+  // O3000.RTF is not a deleted file.
+  trigger("mnuSaveRTF");
+  EXPECT_NE(e->record().fileName, path);
+  watch->checkAll();
+  EXPECT_EQ(asked(), 0u);
+}

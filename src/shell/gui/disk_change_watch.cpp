@@ -23,7 +23,7 @@ DiskChangeWatch::DiskChangeWatch(MDIForm1& frame) : QObject(&frame), frame_(fram
   setObjectName(QStringLiteral("diskChangeWatch"));
   connect(&frame_, &MDIForm1::documentRead, this, &DiskChangeWatch::remember);
   connect(&frame_, &MDIForm1::documentWritten, this, &DiskChangeWatch::remember);
-  connect(&frame_, &MDIForm1::documentClosed, this, [this](frmEditor* editor) { stamps_.erase(editor); });
+  connect(&frame_, &MDIForm1::documentClosed, this, [this](frmEditor* editor) { known_.erase(editor); });
   connect(frame_.mdiArea(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* sub) {
     if (auto* editor = sub ? qobject_cast<frmEditor*>(sub->widget()) : nullptr) checkSoon(editor);
   });
@@ -32,9 +32,10 @@ DiskChangeWatch::DiskChangeWatch(MDIForm1& frame) : QObject(&frame), frame_(fram
 }
 
 void DiskChangeWatch::remember(frmEditor* editor) {
-  if (stamps_.find(editor) == stamps_.end())
-    connect(editor, &QObject::destroyed, this, [this, editor] { stamps_.erase(editor); });
-  stamps_[editor] = fileStampOf(editor->record().fileName);
+  if (known_.find(editor) == known_.end())
+    connect(editor, &QObject::destroyed, this, [this, editor] { known_.erase(editor); });
+  const std::string path = editor->record().fileName;
+  known_[editor] = {path, fileStampOf(path)};
 }
 
 bool DiskChangeWatch::eventFilter(QObject* watched, QEvent* event) {
@@ -76,17 +77,17 @@ void DiskChangeWatch::checkAll() {
 void DiskChangeWatch::check(frmEditor& editor) {
   if (asking_ || frame_.passRunning()) return;
   const std::string path = editor.record().fileName;
-  auto it = stamps_.find(&editor);
-  if (it == stamps_.end()) {
-    // A document with a file that came in some other way (a recovered copy, say): watched from
-    // the file as it is now.
+  auto it = known_.find(&editor);
+  if (it == known_.end() || it->second.path != path) {
+    // A document with a file that came in some other way (a recovered copy, say) or under a
+    // new name: watched from the file as it is now.
     if (!saveNeedsName(path)) remember(&editor);
     return;
   }
   const FileStamp now = fileStampOf(path);
-  const DiskChange change = judgeDiskChange(it->second, now);
+  const DiskChange change = judgeDiskChange(it->second.stamp, now);
   if (change == DiskChange::None) return;
-  it->second = now;  // asked once, whatever the answer
+  it->second.stamp = now;  // asked once, whatever the answer
   asking_ = true;
   QPointer<frmEditor> alive(&editor);
   if (change == DiskChange::Deleted) {
@@ -117,7 +118,7 @@ bool DiskChangeWatch::reload(frmEditor& editor) {
     editor.setFileUndoable(true);  // Undo brings back the text from before the reload
     record.lineEnds = lineEnds;
     record.changed = false;
-    stamps_[&editor] = before;
+    known_[&editor] = {path, before};
     return true;
   } catch (const AppError& e) {
     dialogs().message(FileErrorText(e.number(), e.description()), kFileErrorCaption, Buttons::Ok, Icon::Information);

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 #include <map>
+#include <string>
 
 #include "platform/file_stamp.h"
 
@@ -35,8 +36,15 @@ class DiskChangeWatch : public QObject {
   void checkSoon(frmEditor* editor);  // nullptr: every document
   bool reload(frmEditor& editor);
 
+  // The file as last known, and which file: a document given another name (Save As Rich Text
+  // renames it even when its dialog is cancelled) is watched afresh under the new one.
+  struct Known {
+    std::string path;
+    FileStamp stamp;
+  };
+
   MDIForm1& frame_;
-  std::map<frmEditor*, FileStamp> stamps_;
+  std::map<frmEditor*, Known> known_;
   bool asking_ = false;
   bool checkQueued_ = false;
   bool queuedAll_ = false;

@@ -91,7 +91,10 @@ void RecoveryController::copyChangedDocuments(bool now) {
 }
 
 void RecoveryController::copyDocument(frmEditor& editor, Tracked& tracked, bool now) {
-  if (tracked.taking) return;
+  if (tracked.taking) {
+    if (!now) return;
+    copier_->cancel(tracked.id);  // quitting: taken at once instead of piece by piece
+  }
   const DocumentRecord& record = editor.record();
   RecoveryIndex index;
   index.originalPath = originalPathOf(record);
