@@ -13,6 +13,8 @@
 #include "shell/gui/frame_look.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
+#include "shell/gui/disk_change_watch.h"
+#include "shell/gui/recovery_controller.h"
 
 int main(int argc, char** argv) {
   lathwick::gui::GuardedApplication app(argc, argv);
@@ -43,16 +45,31 @@ int main(int argc, char** argv) {
   }
 
   lathwick::gui::MDIForm1* frame = nullptr;
-  lathwick::gui::QtStartupHost host(args, [&frame](const lathwick::AppValues& values, lathwick::SettingsStore& settings) {
+  lathwick::gui::RecoveryController* recovery = nullptr;
+  lathwick::gui::QtStartupHost host(args, [&frame, &recovery](const lathwick::AppValues& values,
+                                                              lathwick::SettingsStore& settings) {
     frame = new lathwick::gui::MDIForm1(values, settings);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->load();
+    recovery = lathwick::gui::installRecovery(*frame);
+    lathwick::gui::installDiskChangeWatch(*frame);
     return frame;
   });
   const auto result = lathwick::runStartup(host);
   if (result.outcome == lathwick::StartupOutcome::EndedMissingDataFile) return 1;
   const QPointer<lathwick::gui::MDIForm1> guard(frame);
   if (frame) frame->openStartupFile();
+  // Recovered documents are offered to a person, not to an unattended run.
+  if (frame && recovery && screenshot.isEmpty() && macro.isEmpty() && !quitAfterStart) recovery->offerRecovered();
+  // The hook through which the crash-recovery test edits the real program: the text is typed into
+  // the active document (a new one when none is open) once the program is up.
+  if (const QByteArray typed = qgetenv("LATHWICK_TEST_TYPE"); frame && !typed.isEmpty()) {
+    QTimer::singleShot(0, frame, [frame, typed] {
+      lathwick::gui::frmEditor* editor = frame->activeEditor();
+      if (!editor) editor = frame->newDocument();
+      editor->replaceSelection(typed.toStdString());
+    });
+  }
   if (!screenshot.isEmpty() && frame) {
     // The picture for the documentation: the program coloured by modes beside a second copy
     // coloured by codes.

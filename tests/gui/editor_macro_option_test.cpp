@@ -11,7 +11,9 @@ using lathwick::test::TempDir;
 namespace {
 
 int runEditor(const TempDir& config, const std::string& script, const std::string& file, const std::string& err) {
+  // The recovery session goes under the test's own folder, not the user's.
   const std::string cmd = "XDG_CONFIG_HOME=" + lathwick::test::shellQuote(config.str()) +
+                          " XDG_STATE_HOME=" + lathwick::test::shellQuote(config.str()) +
                           " QT_QPA_PLATFORM=offscreen timeout 60 " + lathwick::test::shellQuote(LATHWICK_EDITOR_PATH) +
                           " --macro " + lathwick::test::shellQuote(script) + " " + lathwick::test::shellQuote(file) +
                           " >/dev/null 2>" + lathwick::test::shellQuote(err);

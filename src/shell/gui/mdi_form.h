@@ -143,6 +143,11 @@ class MDIForm1 : public QMainWindow, public EditorHost {
  signals:
   // A document window was made, before its text arrives (its menus can be filled now).
   void documentWindowCreated(frmEditor* editor);
+  // The document's file was read into its window, or the window's text written to a file.
+  void documentRead(frmEditor* editor);
+  void documentWritten(frmEditor* editor);
+  // The window was closed (not torn down with the frame): nothing need be kept for it.
+  void documentClosed(frmEditor* editor);
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -70,6 +70,7 @@ void MDIForm1::forgetWindow(int index) {
   if (it == windows_.end()) return;
   frmEditor* editor = it->second;
   windows_.erase(it);
+  emit documentClosed(editor);
   if (documents_.valid(index)) documents_.release(index);
   if (menusShownFor_ == editor) showMenusOf(nullptr);
   if (windows_.empty()) {
@@ -138,6 +139,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     recentListUpdate(fileName);
     record.changed = false;
     editor->ShowLineNum();
+    emit documentRead(editor);
     callLoadDoc(fileName);
     return editor;
   } catch (const AppError& e) {
@@ -173,6 +175,7 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   // A saved main script is what the macros are from now on.
   std::string savedName = fileName;
   if (scripts_ && upperCased(FileNameOf(savedName)) == "MAIN.VBS") scripts_->resetCode();
+  emit documentWritten(&window);
   return true;
 }
 
