@@ -45,7 +45,7 @@ TEST(CliScheme, ReadsAnyDataFileAndDumpsEveryField) {
   EXPECT_EQ(r.out.find("\\r\\n{\\\\colortbl") != std::string::npos, true);  // the header's CR LF, escaped
 }
 
-TEST(CliScheme, BadDataFilesGiveTheDataFileMessage) {
+TEST(CliScheme, BadDataFilesGiveTheDataFileMessageAndBadArgumentsAUsageError) {
   TempDir dir;
   const std::string good = encodeSchemeRecord(bundledSchemes()[0]);
   const std::string shortFile = dir.write("short.dat", good.substr(0, 4000));
@@ -72,9 +72,7 @@ TEST(CliScheme, BadDataFilesGiveTheDataFileMessage) {
   r = runCli({"scheme", "list", "--data", shortFile});
   EXPECT_EQ(r.exitCode, 0);
   EXPECT_EQ(r.out, "");
-}
-
-TEST(CliScheme, UsageErrors) {
+  // Usage errors.
   EXPECT_EQ(runCli({"scheme"}).exitCode, 2);
   EXPECT_EQ(runCli({"scheme", "show"}).exitCode, 2);
   EXPECT_EQ(runCli({"scheme", "header", "--scheme", "two"}).exitCode, 2);

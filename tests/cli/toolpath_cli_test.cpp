@@ -1,5 +1,5 @@
-// lathwick-cli toolpath and bounds: the exact output, the warnings on stderr, the line ends, the
-// refusals, and golden outputs for a few programs of the shared corpus.
+// lathwick-cli toolpath and bounds: the exact output, the warnings on stderr, the refusals, and
+// golden outputs for a few programs of the shared corpus.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -31,16 +31,6 @@ TEST(ToolpathCli, WritesOneLinePerMoveAndWarningsOnStderr) {
             "8 feed 1.0000 1.0000 -0.1000\n"
             "8 rapid 1.0000 1.0000 0.1000\n");
   EXPECT_EQ(r.err, "4: unsupported G41\n");
-}
-
-TEST(ToolpathCli, LineEndsOfAnyKindGiveTheSameMoves) {
-  TempDir dir;
-  const CliResult crlf = runCli({"toolpath", dir.write("crlf.nc", kProgram)});
-  std::string lf = kProgram, cr = kProgram;
-  std::erase(lf, '\r');
-  std::erase(cr, '\n');
-  EXPECT_EQ(runCli({"toolpath", dir.write("lf.nc", lf)}).out, crlf.out);
-  EXPECT_EQ(runCli({"toolpath", dir.write("cr.nc", cr)}).out, crlf.out);
 }
 
 // The clockwise half circle from X10 to X-10 about the origin passes Y-10; the origin, where

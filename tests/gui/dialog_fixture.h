@@ -16,22 +16,13 @@
 
 #include "platform/file_system.h"
 #include "platform/settings_store.h"
+#include "gui_app.h"
 #include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 #include "transform/find_next.h"
 #include "transform/gui/transform_target.h"
 
 namespace lathwick::test {
-
-inline QApplication& testApp() {
-  static int argc = 1;
-  static char name[] = "lathwick_gui_tests";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = qobject_cast<QApplication*>(QCoreApplication::instance())
-                                 ? qobject_cast<QApplication*>(QCoreApplication::instance())
-                                 : new QApplication(argc, argv);
-  return *app;
-}
 
 inline std::string joinLines(const std::vector<std::string>& lines, const char* brk) {
   std::string out;

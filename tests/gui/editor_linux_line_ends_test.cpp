@@ -170,7 +170,7 @@ TEST_F(LinuxLineEndsTest, NewWindowsOpenInsideTheWorkingAreaAndNameTheirFullPath
 }
 
 TEST(FontStandIn, AMissingFixedPitchFontBecomesAFixedPitchFont) {
-  test::guiApp();
+  test::testApp();
   StyleFormat format;
   format.fontName = "No Such Font Lathwick";
   format.fixedPitch = true;

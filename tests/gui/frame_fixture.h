@@ -18,6 +18,7 @@
 #include "shell/gui/mdi_form.h"
 #include "platform/settings_store.h"
 #include "shell/startup.h"
+#include "gui_app.h"
 #include "scripted_dialogs.h"
 #include "support/temp_dir.h"
 
@@ -34,14 +35,6 @@ inline bool pressShortcut(QWidget* w, int key, Qt::KeyboardModifiers mods = Qt::
   const bool taken = qt_sendShortcutOverrideEvent(w, 0, key, mods);
   QApplication::processEvents();
   return taken;
-}
-
-inline QApplication& guiApp() {
-  static int argc = 1;
-  static char name[] = "lathwick_gui_tests";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = new QApplication(argc, argv);
-  return *app;
 }
 
 // Key and mouse input delivered as the window system would (press, then release).
@@ -75,7 +68,7 @@ T* child(const QObject* parent, const char* name) {
 class FrameTest : public ::testing::Test {
  protected:
   FrameTest() : settings(config.file("Lathwick.ini")) {
-    guiApp();
+    testApp();
     app.write("Lathwick.dat", std::string(100, ' '));
     values.AppFolder = app.folder();
     values.DataFilePath = app.folder() + "Lathwick.dat";
