@@ -137,18 +137,20 @@ void LineColorizer::markCodeTexts(std::string_view line) {
       const std::string_view word = text.substr(0, text.size() - 1);
       scan_ = inStr(scan_ + 1, line, prefix);
       while (scan_ > 0) {
-        const std::size_t next = scan_ + prefix.size();  // 1-based position after the prefix
+        const std::size_t hit = scan_;
+        std::size_t from = hit + 1;  // a hit that does not count: on after it
+        const std::size_t next = hit + prefix.size();  // 1-based position after the prefix
         if (next <= line.size() && startsNumber(line[next - 1])) {
-          const std::size_t hit = scan_;
           put(hit, code);
           const std::size_t end = numberEnd(hit, line, word);
           endWordAt(end);
           clearBetween(hit, end);
-          // An end before the hit (the text after the prefix is not in the line) must not
-          // send the search back: it goes on after the hit instead.
-          scan_ = end > hit ? end : hit;
+          // On from the end of the mark, so a word right after it is found too. An end before
+          // the hit (the text after the prefix is not in the line) must not send the search
+          // back: it goes on after the hit instead.
+          if (end > hit) from = end;
         }
-        scan_ = inStr(scan_ + 1, line, prefix);
+        scan_ = inStr(from, line, prefix);
       }
     } else {
       scan_ = inStr(scan_ + 1, line, m.text);
@@ -157,7 +159,7 @@ void LineColorizer::markCodeTexts(std::string_view line) {
         put(scan_, code);
         endWordAt(end);
         clearBetween(scan_, end);
-        scan_ = inStr(end + 1, line, m.text);
+        scan_ = inStr(end, line, m.text);  // on from the end of the mark: "MM" holds two "M"
       }
     }
   }
