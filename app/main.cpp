@@ -7,11 +7,13 @@
 #include "document/document_table.h"
 #include "document/gui/frm_editor.h"
 #include "platform/gui/command_guard.h"
+#include "platform/memory_reuse.h"
 #include "shell/gui/frame_look.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
 
 int main(int argc, char** argv) {
+  lathwick::keepLargeBuffersForReuse();
   lathwick::gui::GuardedApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
   QApplication::setApplicationVersion(QStringLiteral(LATHWICK_VERSION_TEXT));
