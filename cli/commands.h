@@ -19,6 +19,7 @@ int cmdJunkFilter(const Args& args);
 int cmdScheme(const Args& args);
 int cmdRtfText(const Args& args);
 int cmdRun(const Args& args);
+int cmdMacro(const Args& args);
 int cmdSendTo(const Args& args);
 int cmdSnippets(const Args& args);
 int cmdPrint(const Args& args);

@@ -35,6 +35,7 @@ const Subcommand kSubcommands[] = {
     {"print", cmdPrint, "print --plain|--rich [--lines A-B] [--view modes|codes] IN OUT.pdf"},
     {"rtf-text", cmdRtfText, "rtf-text FILE"},
     {"run", cmdRun, "run SCRIPT.vbs [ARGS...]"},
+    {"macro", cmdMacro, "macro SCRIPT.vbs [--call PROC] IN OUT"},
     {"sendto", cmdSendTo, "sendto [--file F] list | add TITLE PROGRAM [PARAMETERS] | remove TITLE | move TITLE up|down"},
     {"snippets", cmdSnippets,
      "snippets [--folder D] list [CATEGORY] | show CATEGORY NAME | add CATEGORY NAME FILE | delete CATEGORY NAME"},

@@ -2,7 +2,8 @@
 # Builds one fuzz target with clang's libFuzzer (AddressSanitizer and UndefinedBehaviorSanitizer)
 # in build-fuzz/ and fuzzes it for the given time, starting from its seed corpus.
 #   scripts/fuzz.sh TARGET SECONDS [more libFuzzer options]
-# Targets: rtf_reader macro_engine colorizer passes scheme_data_file
+# Targets: rtf_reader macro_engine colorizer passes scheme_data_file send_to_file easy_text_file
+#          motion_model
 # New inputs go to build-fuzz/corpus/TARGET (the seed folder stays as it is); a crash is written
 # to build-fuzz/findings/TARGET/. Once fixed, copy the crash file into
 # tests/fuzz/regressions/TARGET/ so the test suite replays it from then on.

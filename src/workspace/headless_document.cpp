@@ -28,8 +28,11 @@ HeadlessDocument::HeadlessDocument(HeadlessWorkspace& workspace, const std::stri
 void HeadlessDocument::loadRich(const std::string& path) {
   const RtfDocument doc = readRtfFile(path);
   table_ = StyleTable{};
-  styling_ = styleDocument(doc, table_);
-  text_ = doc.text;
+  DocumentStyling styling = styleDocument(doc, table_);
+  styles_.assign(std::move(styling.styles));
+  strikeouts_ = std::move(styling.strikeouts);
+  text_.assign(doc.text);
+  startsValid_ = false;
   indentTwips_ = doc.indentTwips;
 }
 
@@ -45,8 +48,10 @@ void HeadlessDocument::load(const std::string& path) {
 }
 
 void HeadlessDocument::loadPlain(std::string bytes) {
-  text_ = std::move(bytes);
-  styling_ = DocumentStyling{};
+  text_.assign(std::move(bytes));
+  startsValid_ = false;
+  styles_.assign({});
+  strikeouts_.clear();
   table_ = StyleTable{};
   indentTwips_ = 0;
 }
@@ -64,38 +69,95 @@ void HeadlessDocument::setSelection(long start, long length) {
 void HeadlessDocument::replaceSelection(std::string_view text) {
   const auto start = static_cast<std::size_t>(selStart_);
   const auto length = static_cast<std::size_t>(selLength_);
+  textChanged(selStart_, selLength_, text);
   text_.replace(start, length, text);
-  if (!styling_.styles.empty()) {
+  if (!styles_.empty()) {
     // New text takes the style of the character before it, as typing does.
-    const char style = start > 0 ? styling_.styles[start - 1] : '\0';
-    styling_.styles.replace(start, length, std::string(text.size(), style));
-    std::erase_if(styling_.strikeouts, [&](const TextRange& r) { return r.end > start; });
+    const char style = start > 0 ? styles_[start - 1] : '\0';
+    styles_.replace(start, length, std::string(text.size(), style));
+    std::erase_if(strikeouts_, [&](const TextRange& r) { return r.end > start; });
   }
   setSelection(selStart_, static_cast<long>(text.size()));
 }
 
-// Lines end in CR LF, a lone CR or a lone LF, as the text control counts them.
-std::vector<long> HeadlessDocument::lineStarts() const {
-  std::vector<long> starts{0};
-  for (std::size_t i = 0; i < text_.size(); ++i) {
-    if (text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n') ++i;
-    if (text_[i] == '\r' || text_[i] == '\n') starts.push_back(static_cast<long>(i + 1));
-  }
-  return starts;
+std::string HeadlessDocument::textRange(long start, long length) const {
+  const long size = textLength();
+  start = std::clamp(start, 0L, size);
+  length = std::clamp(length, 0L, size - start);
+  return text_.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
 }
 
-long HeadlessDocument::lineCount() const { return static_cast<long>(lineStarts().size()); }
+// Lines end in CR LF, a lone CR or a lone LF, as the text control counts them.
+const std::vector<long>& HeadlessDocument::lineStarts() const {
+  if (startsValid_) {
+    for (std::size_t i = static_cast<std::size_t>(shiftFrom_) + 1; shift_ != 0 && i < starts_.size(); ++i) starts_[i] += shift_;
+    shift_ = 0;
+    return starts_;
+  }
+  starts_.assign(1, 0);
+  for (std::size_t i = 0; i < text_.size(); ++i) {
+    if (text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n') ++i;
+    if (text_[i] == '\r' || text_[i] == '\n') starts_.push_back(static_cast<long>(i + 1));
+  }
+  startsValid_ = true;
+  shift_ = 0;
+  return starts_;
+}
+
+// Called before `removed` characters at `at` are replaced by `inserted`.
+void HeadlessDocument::textChanged(long at, long removed, std::string_view inserted) {
+  if (!startsValid_) return;
+  const std::string gone = text_.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(removed));
+  const auto breaks = [](std::string_view s) { return s.find_first_of("\r\n") != std::string_view::npos; };
+  // An edit between a CR and an LF joins them into one break when it leaves nothing there, and
+  // parts them when it inserts text; either way the line count changes. Every other edit that
+  // neither adds nor removes a break keeps the lines, only moving the starts after it.
+  const auto charAt = [&](long i) { return i >= 0 && i < textLength() ? text_[static_cast<std::size_t>(i)] : '\0'; };
+  if (breaks(gone) || breaks(inserted) || (charAt(at - 1) == '\r' && charAt(at + removed) == '\n')) {
+    startsValid_ = false;
+    return;
+  }
+  const long line = lineFromChar(at);
+  const long delta = static_cast<long>(inserted.size()) - removed;
+  if (shift_ != 0 && line != shiftFrom_) {
+    // Settle the pending shift up to the new edit's line; later lines carry both shifts.
+    const long from = std::min(line, shiftFrom_), to = std::max(line, shiftFrom_);
+    if (line > shiftFrom_) {
+      for (long i = from + 1; i <= to; ++i) starts_[static_cast<std::size_t>(i)] += shift_;
+    } else {
+      for (long i = from + 1; i <= to; ++i) starts_[static_cast<std::size_t>(i)] -= shift_;
+    }
+  }
+  shiftFrom_ = line;
+  shift_ += delta;
+}
+
+long HeadlessDocument::startAt(long line) const {
+  const long base = starts_[static_cast<std::size_t>(line)];
+  return line > shiftFrom_ ? base + shift_ : base;
+}
+
+long HeadlessDocument::lineCount() const {
+  if (!startsValid_) lineStarts();
+  return static_cast<long>(starts_.size());
+}
 
 long HeadlessDocument::lineFromChar(long position) const {
-  const std::vector<long> starts = lineStarts();
-  const auto after = std::upper_bound(starts.begin(), starts.end(), std::max(position, 0L));
-  return static_cast<long>(after - starts.begin()) - 1;
+  if (!startsValid_) lineStarts();
+  position = std::max(position, 0L);
+  long lo = 0, hi = static_cast<long>(starts_.size());  // the answer is the last start <= position
+  while (hi - lo > 1) {
+    const long mid = (lo + hi) / 2;
+    if (startAt(mid) <= position) lo = mid;
+    else hi = mid;
+  }
+  return lo;
 }
 
 long HeadlessDocument::lineIndex(long line) const {
-  const std::vector<long> starts = lineStarts();
-  if (line < 0 || line >= static_cast<long>(starts.size())) return -1;
-  return starts[static_cast<std::size_t>(line)];
+  if (!startsValid_) lineStarts();
+  if (line < 0 || line >= static_cast<long>(starts_.size())) return -1;
+  return startAt(line);
 }
 
 long HeadlessDocument::lineLength(long line) const {
@@ -120,10 +182,12 @@ bool HeadlessDocument::save() {
 bool HeadlessDocument::saveAs(const std::string& path) {
   try {
     if (isRichTextName(path)) {
-      const StyledTextView view{text_, styling_.styles, &styling_.strikeouts, indentTwips_};
+      const std::string text = text_.str();
+      const std::string styles = styles_.str();
+      const StyledTextView view{text, styles, &strikeouts_, indentTwips_};
       writeRtfFile(path, view, table_);
     } else {
-      writeFileAtomically(path, text_);
+      writeFileAtomically(path, text_.str());
     }
   } catch (const std::exception& e) {
     workspace_.messageBox(std::string(e.what()) + "\r\n" + kFileNotSaved, kAppTitle, Buttons::Ok, Icon::Information);
@@ -153,7 +217,7 @@ void HeadlessDocument::setScheme(const std::string& name) {
 
 bool HeadlessDocument::writeInput(const std::string& path) {
   try {
-    writeFileAtomically(path, text_);
+    writeFileAtomically(path, text_.str());
     return true;
   } catch (const std::exception&) {
     return false;

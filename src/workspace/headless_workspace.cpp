@@ -9,6 +9,8 @@
 #include "document/case_change.h"
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
+#include "format/pass_frame.h"
+#include "transform/scheme_frame.h"
 #include "format/scheme_data_file.h"
 #include "platform/app_names.h"
 #include "platform/bytes.h"
@@ -84,7 +86,7 @@ void HeadlessDocument::colorize(ColorizeRun run) {
   const std::string in = workspace_.inputWorkFile(), out = workspace_.outputWorkFile();
   if (!writeInput(in)) return;  // no input file: the run does nothing and says nothing
   if (run == ColorizeRun::Reload) {
-    loadPlain(text_);
+    loadPlain(text_.str());
     return;
   }
   const SchemeRecord scheme = loadScheme(workspace_.dataFile(), workspace_.currentScheme());
@@ -119,6 +121,33 @@ void HeadlessDocument::runPass(DocumentPassKind pass) {
     if (std::optional<std::string> bytes = readWholeFile(out)) loadPlain(std::move(*bytes));
   } else if (report.shown) {
     workspace_.messageBox(report.text, report.caption, Buttons::Ok, report.icon);
+  }
+}
+
+void HeadlessDocument::operate(const transform::OperateEntries& entries) {
+  const transform::OperateValidation check = transform::validateOperate(entries);
+  if (!check.message.empty()) {
+    workspace_.messageBox(check.message, kAppTitle, Buttons::Ok, Icon::None);
+    return;
+  }
+  const std::string in = workspace_.inputWorkFile(), out = workspace_.outputWorkFile();
+  if (!writeInput(in)) return;
+  transform::OperateRequest request;
+  request.addresses = entries.address;
+  request.op = entries.op.front();
+  request.operand = transform::leadingValue(entries.value);
+  request.format = entries.format;
+  request.displayLineCount = lineCount();
+  try {
+    const SchemeRecord scheme = loadScheme(workspace_.dataFile(), workspace_.currentScheme());
+    const transform::RichTextFrame frame = transform::richTextFrameOf(makePassFrame(scheme));
+    const transform::PassResult result = transform::runOperate(in, out, request, frame, silentMonitor());
+    const PassReport report = reportOf(result);
+    if (result.outcome == transform::PassOutcome::Completed && result.reload) loadRich(out);
+    else if (report.shown) workspace_.messageBox(report.text, report.caption, Buttons::Ok, report.icon);
+  } catch (const AppError& e) {
+    workspace_.messageBox(std::string(e.what()) + transform::kOperateErrorEnding, kAppTitle, Buttons::Ok,
+                          Icon::Exclamation);
   }
 }
 

@@ -8,8 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "document/gap_text.h"
 #include "document/rtf_styling.h"
 #include "document/style_table.h"
+#include "transform/operate.h"
 #include "workspace/command_dispatch.h"
 #include "workspace/workspace.h"
 
@@ -22,8 +24,9 @@ class HeadlessDocument : public WorkspaceDocument {
   // Loads `path` (rich text when its name ends in .RTF); throws AppError when it cannot.
   HeadlessDocument(HeadlessWorkspace& workspace, const std::string& path);
 
-  std::string text() const override { return text_; }
+  std::string text() const override { return text_.str(); }
   long textLength() const override { return static_cast<long>(text_.size()); }
+  std::string textRange(long start, long length) const override;
   long selectionStart() const override { return selStart_; }
   long selectionLength() const override { return selLength_; }
   std::string selectedText() const override;
@@ -44,21 +47,32 @@ class HeadlessDocument : public WorkspaceDocument {
   void setScheme(const std::string& name) override;
   void colorize(ColorizeRun run) override;
   void runPass(DocumentPassKind pass) override;
+  // The operate dialog's OK over the whole document with these entries, as a macro runs it.
+  void operate(const transform::OperateEntries& entries);
 
  private:
   void load(const std::string& path);
   void loadRich(const std::string& path);
   void loadPlain(std::string bytes);
-  std::vector<long> lineStarts() const;
+  const std::vector<long>& lineStarts() const;
+  void textChanged(long at, long removed, std::string_view inserted);
   bool writeInput(const std::string& path);
 
   HeadlessWorkspace& workspace_;
   std::string fileName_;
-  std::string text_;
-  DocumentStyling styling_;  // empty styles: plain text, all in the default style
+  GapText text_;
+  GapText styles_;               // one style byte per character; empty: plain text, all default
+  std::vector<TextRange> strikeouts_;
   StyleTable table_;
   int indentTwips_ = 0;
   long selStart_ = 0, selLength_ = 0;
+  // The line starts, kept across the edits a macro makes line by line: an edit that adds or
+  // removes no line break only moves the starts after it, which is done lazily (every start
+  // after line shiftFrom_ is off by shift_) so that a pass over all lines stays linear.
+  mutable std::vector<long> starts_;
+  mutable bool startsValid_ = false;
+  mutable long shiftFrom_ = 0, shift_ = 0;
+  long startAt(long line) const;
 };
 
 struct HeadlessSettings {

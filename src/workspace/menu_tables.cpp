@@ -146,6 +146,7 @@ const auto kDocumentMenu = std::to_array<MenuEntry>({
     numbered(1, "mnuExecuteMacro", 0, "Execute &File"),
     numbered(1, "mnuExecuteMacro", 1, "&Execute", "Ctrl+L"),
     item("mnuReset", "&Reset Code"),
+    item("mnuRecordKeys", "Record &Keys"),
 
     top("mnuHelp", "&Help"),
     keyed("mnuContents", "&Contents", "F1", "F1"),

@@ -25,6 +25,8 @@ class WorkspaceDocument {
 
   virtual std::string text() const = 0;
   virtual long textLength() const = 0;
+  // `length` characters from `start` (clipped to the text), without copying the rest.
+  virtual std::string textRange(long start, long length) const = 0;
   virtual long selectionStart() const = 0;
   virtual long selectionLength() const = 0;  // the corrected length, never negative
   virtual std::string selectedText() const = 0;

@@ -20,7 +20,14 @@ int colorizer(const std::uint8_t* data, std::size_t size);
 int passes(const std::uint8_t* data, std::size_t size);
 // A scheme data file: every record read, written back, read again, and used for a colour run.
 int schemeDataFile(const std::uint8_t* data, std::size_t size);
-// Further targets (the send-to list, the easy-text files, the motion model) go here, with a
-// line in kTargets of replay_test.cpp and in LATHWICK_FUZZ_TARGETS of tests.cmake.
+// A send-to list file ("SendTo.dat"): read, written back and read again; commands built.
+int sendToFile(const std::uint8_t* data, std::size_t size);
+// An easy-text category file ("*.dis"): read, written back and read again; a text stored.
+int easyTextFile(const std::uint8_t* data, std::size_t size);
+// Line 1: comment pair, block skip, units, piece size; then the program, modelled whole and
+// in pieces.
+int motionModel(const std::uint8_t* data, std::size_t size);
+// A new target goes here, with a line in kTargets of replay_test.cpp and in
+// LATHWICK_FUZZ_TARGETS of tests.cmake.
 
 }  // namespace lathwick::fuzz

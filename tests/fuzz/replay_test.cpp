@@ -30,6 +30,9 @@ const NamedTarget kTargets[] = {
     {"colorizer", lathwick::fuzz::colorizer},
     {"passes", lathwick::fuzz::passes},
     {"scheme_data_file", lathwick::fuzz::schemeDataFile},
+    {"send_to_file", lathwick::fuzz::sendToFile},
+    {"easy_text_file", lathwick::fuzz::easyTextFile},
+    {"motion_model", lathwick::fuzz::motionModel},
 };
 
 // The test's name says which target; gtest prints the parameter with it.

@@ -12,7 +12,10 @@ set(LATHWICK_FUZZ_TARGETS
   macro_engine:macroEngine
   colorizer:colorizer
   passes:passes
-  scheme_data_file:schemeDataFile)
+  scheme_data_file:schemeDataFile
+  send_to_file:sendToFile
+  easy_text_file:easyTextFile
+  motion_model:motionModel)
 
 if(LATHWICK_FUZZ)
   add_library(lathwick_fuzz_targets STATIC ${FUZZ_TARGET_SOURCES} ${FUZZ_SUPPORT_SOURCES})

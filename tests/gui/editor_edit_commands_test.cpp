@@ -108,8 +108,8 @@ TEST_F(FrameTest, MenuKeysRunTheirCommandsInTheActiveDocument) {
   EXPECT_EQ(e->rtfTextBox().text(), "N20 G01\r\n");
   EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_A, Qt::ControlModifier));
   EXPECT_EQ(e->rtfTextBox().selLength(), e->rtfTextBox().textLength());
-  // Keys of features not yet there do nothing.
-  EXPECT_FALSE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_L, Qt::ControlModifier));
+  // Ctrl+L lists the macros (none are loaded here, so nothing pops up).
+  EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_L, Qt::ControlModifier));
   app.write("help/index.html", "<html></html>");
   EXPECT_TRUE(lathwick::test::pressShortcut(e->rtfTextBox().widget(), Qt::Key_F1));
   EXPECT_EQ(dialogs.opened.size(), 1u);

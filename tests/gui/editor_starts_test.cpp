@@ -12,7 +12,9 @@ TEST(EditorStart, StartsFromStoredAppFolderAndQuitsCleanly) {
   TempDir config, app;
   app.write("Lathwick.dat", std::string(12532, ' '));
   lathwick::SettingsStore(config.file("Lathwick/Lathwick.ini")).save("Startup", "app_path", app.str());
+  // The recovery session goes under the test's own folder, not the user's.
   const std::string cmd = "XDG_CONFIG_HOME=" + lathwick::test::shellQuote(config.str()) +
+                          " XDG_STATE_HOME=" + lathwick::test::shellQuote(config.str()) +
                           " QT_QPA_PLATFORM=offscreen timeout 60 " +
                           lathwick::test::shellQuote(LATHWICK_EDITOR_PATH) + " --quit-after-start >/dev/null 2>&1";
   const int status = std::system(cmd.c_str());

@@ -208,6 +208,23 @@ TEST_F(SendToTest, SendingHandsTheSavedFileToTheProgramAsItsLastWord) {
   EXPECT_EQ(readBytes(path), "N10 G00 X0\r\n");  // what was sent is the file as saved
 }
 
+TEST_F(SendToTest, TheScriptsSendToSeesProgramAndFileAndAScriptErrorDoesNotStopTheSending) {
+  app.write("SendTo.dat", "1,0\r\n\"Record\",\"" + recorder + "\",\"\"\r\n");
+  // The hook writes what it was given into the document, then fails.
+  app.write("Script/main.vbs",
+            "Sub SendTo(Target)\r\n  Text = Target(0) & \"|\" & Target(1)\r\n  x = 1 / 0\r\nEnd Sub\r\n");
+  const std::string path = files.write("p.nc", "G00\r\n");
+  start();
+  gui::frmEditor* e = openFile(path);
+  ASSERT_NE(e, nullptr);
+  trigger("mnuShell", 0);
+  EXPECT_EQ(recorded(), path + "\n");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].caption, "Script Error");
+  EXPECT_NE(dialogs.messages[0].text.find("Division by zero"), std::string::npos);
+  EXPECT_EQ(e->rtfTextBox().text(), recorder + "|" + path);
+}
+
 TEST_F(SendToTest, AnEmptyDocumentIsNeverSentAndAProgramThatCannotStartIsReported) {
   app.write("SendTo.dat", "1,0\r\n\"Record\",\"" + recorder + "\",\"\"\r\n");
   const std::string path = files.write("p.nc", "G00\r\n");

@@ -60,25 +60,23 @@ TEST_F(FrameTest, DocumentMenuKeepsItsOwnSpellingsAndKeys) {
   EXPECT_TRUE(frame->menuAction("mnuCut")->shortcut().isEmpty());
 }
 
-TEST_F(FrameTest, MissingFeaturesAreDisabledAndSaySo) {
+TEST_F(FrameTest, EveryFeatureOfTheMenusIsThereOnceADocumentIsOpen) {
   start();
   trigger("mnuNew");
-  // The macro commands are the ones still to come; everything else in the menus is there.
-  for (auto [name, index] : std::vector<std::pair<const char*, int>>{{"mnuExecuteMacro", 0}, {"mnuReset", -1}}) {
-    QAction* a = frame->menuAction(name, index);
-    ASSERT_NE(a, nullptr) << name;
-    EXPECT_FALSE(a->isEnabled()) << name;
-    EXPECT_EQ(a->toolTip().toStdString(), gui::kNotYetAvailable) << name;
+  // No entry of either menu tree is left waiting for a later feature.
+  // (The hidden Procedures menu's "List" entry is only a place holder for the Execute pop-up.)
+  for (QAction* a : frame->findChildren<QAction*>()) {
+    if (a->objectName().startsWith(QStringLiteral("mnuProcc"))) continue;
+    EXPECT_NE(a->toolTip().toStdString(), gui::kNotYetAvailable) << a->objectName().toStdString();
   }
   for (auto [name, index] : std::vector<std::pair<const char*, int>>{
-           {"mnuPrintPlain", -1}, {"mnueasytext", -1}, {"mnuGraphicsSetup", -1}, {"mnuEditSchemes", -1}}) {
+           {"mnuPrintPlain", -1}, {"mnueasytext", -1}, {"mnuGraphicsSetup", -1}, {"mnuEditSchemes", -1},
+           {"mnuExecuteMacro", 0}, {"mnuExecuteMacro", 1}, {"mnuReset", -1}, {"mnuSaveRTF", -1},
+           {"mnuPrint", -1}}) {
     QAction* a = frame->menuAction(name, index);
     ASSERT_NE(a, nullptr) << name;
     EXPECT_TRUE(a->isEnabled()) << name;
-    EXPECT_NE(a->toolTip().toStdString(), gui::kNotYetAvailable) << name;
   }
-  EXPECT_TRUE(frame->menuAction("mnuSaveRTF")->isEnabled());
-  EXPECT_TRUE(frame->menuAction("mnuPrint")->isEnabled());  // a submenu with something usable in it
   EXPECT_TRUE(frame->toolButton("Comm")->isEnabled());
 }
 

@@ -61,6 +61,9 @@ class EditorHost : public Workspace {
   virtual void setOverwrite(bool overwrite) = 0;
   // Toolbar and menu states after the active window's state changed.
   virtual void refreshCommandStates() = 0;
+  // While a script runs, windows hold back their menu and status updates (a macro may move the
+  // selection a million times); the frame brings them up to date when it ends.
+  virtual bool scriptRunning() const = 0;
   // While a long pass runs, Esc anywhere cancels it.
   virtual void setPassRunning(bool running) = 0;
 

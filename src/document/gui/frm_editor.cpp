@@ -117,6 +117,7 @@ void frmEditor::ShowLineNum() {
 long frmEditor::selectionLength() const { return correctedSelectionLength(text_->selStart(), text_->selLength()); }
 
 void frmEditor::En_Dis_able() {
+  if (frame_.scriptRunning()) return;
   const bool selection = selectionLength() >= 1;
   for (const char* name : {"mnuLcase", "mnuUcase", "mnuTitlecase", "mnuCut", "mnuCopy", "mnuAppend"})
     menus_->setEnabled(name, selection);

@@ -53,6 +53,8 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
 
   void ShowLineNum();
   void En_Dis_able();
+  // A script has finished: the view shows the caret again and the menus catch up.
+  void scriptEnded();
   void Form_Activate();
   bool Save();  // false when nothing was saved
 
@@ -109,6 +111,7 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
 
   // What commands and scripts see of the document (the rest is shared with the dialogs' view).
   std::string text() const override;
+  std::string textRange(long start, long length) const override;
   void setSelection(long start, long length) override;
   long lineIndex(long line) const override;
   long lineLength(long line) const override;

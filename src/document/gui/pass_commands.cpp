@@ -21,7 +21,11 @@ std::string frmEditor::selectedText() const { return text_->selText(); }
 long frmEditor::lineFromChar(long position) const { return text_->lineFromChar(static_cast<int>(position)); }
 long frmEditor::lineCount() const { return text_->lineCount(); }
 std::string frmEditor::text() const { return text_->text(); }
+std::string frmEditor::textRange(long start, long length) const {
+  return text_->textRange(static_cast<int>(start), static_cast<int>(length));
+}
 void frmEditor::setSelection(long start, long length) {
+  if (frame_.scriptRunning()) text_->holdCaretScrolling(true);
   text_->setSelection(static_cast<int>(start), static_cast<int>(length));
 }
 long frmEditor::lineIndex(long line) const { return text_->lineIndex(static_cast<int>(line)); }
@@ -38,6 +42,11 @@ bool frmEditor::savePlainText(const std::string& path) {
 
 void frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
   reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
+}
+
+void frmEditor::scriptEnded() {
+  text_->holdCaretScrolling(false);
+  if (frame_.activeEditor() == this) En_Dis_able();
 }
 
 void frmEditor::setStatusText(const std::string& text) { frame_.setPanelText("Stat", text); }
@@ -65,6 +74,7 @@ long frmEditor::find(std::string_view text, long start, long end, int flags) {
 }
 
 void frmEditor::replaceSelection(std::string_view text) {
+  if (frame_.scriptRunning()) text_->holdCaretScrolling(true);
   const int start = text_->selStart();
   text_->replaceSelection(std::string(text));
   text_->setSelection(start, static_cast<int>(text.size()));

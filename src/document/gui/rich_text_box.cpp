@@ -107,13 +107,37 @@ long RichTextBox::selLength() const { return SendScintilla(SCI_GETSELECTIONEND) 
 
 void RichTextBox::setSelStart(long position) {
   position = std::clamp(position, 0L, textLength());
-  SendScintilla(SCI_GOTOPOS, position);
+  moveCaret(position);
+}
+
+void RichTextBox::moveCaret(long position) {
+  SendScintilla(caretScrollingHeld_ ? SCI_SETEMPTYSELECTION : SCI_GOTOPOS, position);
+}
+
+void RichTextBox::holdCaretScrolling(bool hold) {
+  if (caretScrollingHeld_ && !hold) SendScintilla(SCI_SCROLLCARET);
+  caretScrollingHeld_ = hold;
 }
 
 void RichTextBox::setSelLength(long length) {
   const long start = selStart();
   const long end = std::clamp(start + std::max(0L, length), start, textLength());
-  SendScintilla(SCI_SETSEL, start, end);
+  if (caretScrollingHeld_) {
+    SendScintilla(SCI_SETANCHOR, start);
+    SendScintilla(SCI_SETCURRENTPOS, end);
+  } else {
+    SendScintilla(SCI_SETSEL, start, end);
+  }
+}
+
+std::string RichTextBox::textRange(long start, long length) const {
+  const long size = textLength();
+  start = std::clamp(start, 0L, size);
+  length = std::clamp(length, 0L, size - start);
+  std::string out(static_cast<std::size_t>(length) + 1, '\0');
+  SendScintilla(SCI_GETTEXTRANGE, start, start + length, out.data());
+  out.resize(static_cast<std::size_t>(length));
+  return out;
 }
 
 std::string RichTextBox::selText() const {
@@ -132,7 +156,7 @@ void RichTextBox::setSelText(std::string_view text) {
   SendScintilla(SCI_REPLACETARGET, static_cast<uintptr_t>(text.size()), std::string(text).c_str());
   SendScintilla(SCI_ENDUNDOACTION);
   flushPendingFormats();
-  SendScintilla(SCI_GOTOPOS, start + static_cast<long>(text.size()));
+  moveCaret(start + static_cast<long>(text.size()));
 }
 
 std::string RichTextBox::selRtf() const {
@@ -155,7 +179,7 @@ void RichTextBox::setSelRtf(std::string_view rtf) {
   SendScintilla(SCI_ENDUNDOACTION);
   flushPendingFormats();
   applyPending({start, static_cast<long>(doc.text.size()), styling.styles, styling.strikeouts});
-  SendScintilla(SCI_GOTOPOS, start + static_cast<long>(doc.text.size()));
+  moveCaret(start + static_cast<long>(doc.text.size()));
 }
 
 // ---- lines --------------------------------------------------------------------------------

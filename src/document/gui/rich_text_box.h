@@ -49,7 +49,11 @@ class RichTextBox : public QsciScintilla {
   void setSelStart(long position);  // collapses the selection there, as the original control did
   long selLength() const;
   void setSelLength(long length);   // from the selection start
+  // While held, selection changes leave the view where it is (a macro moving through every
+  // line); releasing scrolls the caret into view once.
+  void holdCaretScrolling(bool hold);
   std::string selText() const;
+  std::string textRange(long start, long length) const;
   void setSelText(std::string_view text);  // replaces the selection, in the format before it
   std::string selRtf() const;              // the selection as rich text
   void setSelRtf(std::string_view rtf);    // replaces the selection with rich text
@@ -107,6 +111,8 @@ class RichTextBox : public QsciScintilla {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  void moveCaret(long position);
+  bool caretScrollingHeld_ = false;
   struct DeletedFormats {
     long position;
     long length;

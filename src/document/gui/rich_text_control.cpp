@@ -38,6 +38,9 @@ int RichTextControl::textLength() const { return static_cast<int>(box_->textLeng
 int RichTextControl::selStart() const { return static_cast<int>(box_->selStart()); }
 int RichTextControl::selLength() const { return static_cast<int>(box_->selLength()); }
 std::string RichTextControl::selText() const { return box_->selText(); }
+std::string RichTextControl::textRange(int start, int length) const { return box_->textRange(start, length); }
+
+void RichTextControl::holdCaretScrolling(bool hold) { box_->holdCaretScrolling(hold); }
 
 void RichTextControl::setSelection(int start, int length) {
   box_->setSelStart(start);

@@ -22,7 +22,9 @@ class RichTextControl : public TextControl {
   int selStart() const override;
   int selLength() const override;
   std::string selText() const override;
+  std::string textRange(int start, int length) const override;
   void setSelection(int start, int length) override;
+  void holdCaretScrolling(bool hold) override;
   void replaceSelection(const std::string& bytes) override;
   int lineCount() const override;
   int lineFromChar(int position) const override;

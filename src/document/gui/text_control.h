@@ -30,7 +30,11 @@ class TextControl : public QObject {
   // selection length correction).
   virtual int selLength() const = 0;
   virtual std::string selText() const = 0;
+  // `length` characters from `start`, clipped to the text.
+  virtual std::string textRange(int start, int length) const = 0;
   virtual void setSelection(int start, int length) = 0;
+  // While held, selection changes do not scroll the view; releasing shows the caret once.
+  virtual void holdCaretScrolling(bool hold) = 0;
   virtual void replaceSelection(const std::string& bytes) = 0;
 
   virtual int lineCount() const = 0;                // an empty text has one line

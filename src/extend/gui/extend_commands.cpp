@@ -9,6 +9,7 @@
 #include "platform/file_system.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_folder.h"
+#include "shell/gui/frame_scripts.h"
 #include "shell/gui/mdi_form.h"
 #include "workspace/gui/menu_set.h"
 #include "platform/app_names.h"
@@ -53,7 +54,14 @@ void ExtendTools::sendDocument(frmEditor& editor, int index) {
   startProgram(list.at(index), fileName);
 }
 
-void ExtendTools::callSendToScript(const std::string&, const std::string&) {}
+void ExtendTools::callSendToScript(const std::string& program, const std::string& fileName) {
+  FrameScripts* scripts = frame_.scripts();
+  if (!scripts) return;
+  // One argument: an array of the program path and the file name. An error is shown by the host
+  // and sending goes on.
+  const auto pair = vbs::ArrayData::ofValues({vbs::Variant::str(program), vbs::Variant::str(fileName)});
+  scripts->host().callHook("SendTo", {vbs::Variant::array(pair)});
+}
 
 void ExtendTools::startProgram(const extend::SendToEntry& entry, const std::string& fileName) {
   const auto command = extend::buildSendCommand(entry, fileName);

@@ -31,8 +31,8 @@ class ExtendTools : public QObject {
   frmEasyText* showEasyText();
 
  private:
-  // The place where the macro host's "SendTo" procedure is called, with the program path and
-  // the document's file name, before the program starts. Scripts are not available yet.
+  // Calls the scripts' "SendTo" procedure, when they define one, with the program path and the
+  // document's file name, before the program starts.
   void callSendToScript(const std::string& program, const std::string& fileName);
   void startProgram(const extend::SendToEntry& entry, const std::string& fileName);
   void report(const std::string& message);

@@ -15,6 +15,7 @@
 #include "platform/bytes.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_names.h"
+#include "platform/gui/help_key.h"
 #include "transform/gui/text_bytes.h"
 #include "workspace/workspace.h"
 
@@ -37,6 +38,7 @@ frmEasyText::frmEasyText(const std::string& datLocation, EasyTextMemory& memory,
   setObjectName(QStringLiteral("frmEasyText"));
   setWindowTitle(QStringLiteral("Easy Text"));
   buildControls();
+  addHelpKey(this, "easytext.html");
 }
 
 QAction* frmEasyText::menuAction(const char* object, const char* caption, void (frmEasyText::*slot)()) {

@@ -12,6 +12,7 @@
 #include "document/paths.h"
 #include "platform/gui/dialogs.h"
 #include "platform/app_names.h"
+#include "platform/gui/help_key.h"
 #include "transform/gui/text_bytes.h"
 
 namespace lathwick::gui {
@@ -45,6 +46,7 @@ frmSendTo::frmSendTo(const std::string& datName, QWidget* parent) : QDialog(pare
   setObjectName(QStringLiteral("frmSendTo"));
   setWindowTitle(QStringLiteral("Send-To List"));
   buildControls();
+  addHelpKey(this, "sendto.html");
 }
 
 void frmSendTo::buildControls() {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "format/scheme_record.h"
+#include "platform/gui/help_key.h"
 
 namespace lathwick::gui {
 
@@ -34,6 +35,7 @@ ToolpathSetup::ToolpathSetup(const GraphicsSettings& settings, std::optional<Pat
       schemeColours_(new QPushButton(QStringLiteral("&Scheme colours"), this)) {
   setObjectName(QStringLiteral("frmToolpathSetup"));
   setWindowTitle(QStringLiteral("Graphics Setup"));
+  addHelpKey(this, "toolpath.html");
   auto* form = new QFormLayout(this);
   view_->addItems({QStringLiteral("Top"), QStringLiteral("Front"), QStringLiteral("Side"), QStringLiteral("Isometric")});
   view_->setCurrentIndex(static_cast<int>(settings_.view));

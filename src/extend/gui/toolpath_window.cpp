@@ -15,6 +15,7 @@
 #include "extend/gui/toolpath_view.h"
 #include "extend/toolpath/toolpath_text.h"
 #include "format/colorizer.h"
+#include "platform/gui/help_key.h"
 #include "transform/gui/qt_pass_monitor.h"
 #include "workspace/toolpath_reading.h"
 
@@ -42,6 +43,7 @@ ToolpathWindow::ToolpathWindow(EditorHost& host, SettingsStore& settings)
     : QWidget(host.frameWidget(), Qt::Window), host_(host), settings_(settings), view_(new ToolpathView(this)), summary_(new QLabel(this)) {
   setObjectName(QStringLiteral("frmToolpath"));
   setWindowTitle(QStringLiteral("Tool Path"));
+  addHelpKey(this, "toolpath.html");
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);

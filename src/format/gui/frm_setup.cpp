@@ -18,6 +18,7 @@
 #include "format/scheme_edits.h"
 #include "platform/bytes.h"
 #include "document/gui/rich_text_box.h"
+#include "platform/gui/help_key.h"
 
 namespace lathwick::gui {
 
@@ -31,6 +32,7 @@ QString cssColour(std::int32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c 
 frmSetup::frmSetup(SetupHost& host, QWidget* parent) : QDialog(parent), host_(host) {
   setObjectName(QStringLiteral("frmSetup"));
   setWindowTitle(QStringLiteral("Edit Schemes"));
+  addHelpKey(this, "schemes.html");
   buildControls();
   buildMenus();
   loadList(host_.rememberedRecord());

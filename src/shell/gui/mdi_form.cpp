@@ -15,6 +15,7 @@
 #include <QToolButton>
 
 #include "document/gui/frm_editor.h"
+#include "shell/gui/frame_scripts.h"
 #include "extend/gui/motion_check.h"
 #include "format/bundled_schemes.h"
 #include "format/rich_text_builder.h"
@@ -55,7 +56,10 @@ MDIForm1::MDIForm1(const AppValues& values, SettingsStore& settings, QWidget* pa
   panels_ = new StatusPanels(statusBar());
   connect(panels_, &StatusPanels::bookmarkPressed, this, &MDIForm1::onBookmark);
   // A click on the message panel stops a running pass, as Esc does.
-  connect(panels_, &StatusPanels::messagePressed, this, [] { requestCancel(); });
+  connect(panels_, &StatusPanels::messagePressed, this, [this] {
+    requestCancel();
+    if (scripts_ && scripts_->host().running()) scripts_->host().interrupt();
+  });
   connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
   qApp->installEventFilter(this);
   showMenusOf(nullptr);
@@ -319,10 +323,16 @@ void MDIForm1::onBookmark(int number, Qt::MouseButton button) {
 }
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (scripts_ && scripts_->host().running() && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    scripts_->host().interrupt();  // Esc stops a running macro wherever the focus is
+    return true;
+  }
   if (passRunning_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     requestCancel();  // Esc stops a running pass wherever the focus is
     return true;
   }
+  if (scripts_ && event->type() == QEvent::KeyPress) scripts_->noteKey(watched, *static_cast<QKeyEvent*>(event));
   if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
     // The X server reports the lock keys in the modifier state of every key event.
     const quint32 state = static_cast<QKeyEvent*>(event)->nativeModifiers();
@@ -362,7 +372,10 @@ void MDIForm1::load() {
     }
     syncSettingChecks();
     rebuildRecentMenus();
-    // The script host joins here once macros are available.
+    scripts_ = new FrameScripts(*this, values_.AppFolder + "Script/");
+    registerMacroCommands(commands_, *scripts_);
+    refreshAvailability();
+    scripts_->host().loadMainScript();
   } catch (const std::exception& e) {
     dialogs().message(e.what(), "MDIForm load", Buttons::Ok, Icon::Information);
   }

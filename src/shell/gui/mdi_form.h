@@ -36,6 +36,7 @@ class MenuSet;
 class TransformDialogs;
 class TransformTarget;
 class StatusPanels;
+class FrameScripts;
 
 class MDIForm1 : public QMainWindow, public EditorHost {
   Q_OBJECT
@@ -129,7 +130,11 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void setPanelText(const std::string& panel, const std::string& text) override;
   void setOverwrite(bool overwrite) override;
   void refreshCommandStates() override { En_Dis_able(); }
+  bool scriptRunning() const override;
   void forgetEditor(frmEditor& window) override;
+
+  // The script host, made by load(); nullptr before.
+  FrameScripts* scripts() const { return scripts_; }
 
   QMdiArea* mdiArea() const { return mdi_; }
   void tileVertically();    // side by side
@@ -138,6 +143,11 @@ class MDIForm1 : public QMainWindow, public EditorHost {
  signals:
   // A document window was made, before its text arrives (its menus can be filled now).
   void documentWindowCreated(frmEditor* editor);
+  // The document's file was read into its window, or the window's text written to a file.
+  void documentRead(frmEditor* editor);
+  void documentWritten(frmEditor* editor);
+  // The window was closed (not torn down with the frame): nothing need be kept for it.
+  void documentClosed(frmEditor* editor);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -162,6 +172,7 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   void onBookmark(int number, Qt::MouseButton button);
   frmEditor* createWindow(int index);
   void deleteWorkFiles();
+  void callLoadDoc(const std::string& fileName);
   FrameSettings currentFrameSettings() const;
 
   AppValues values_;
@@ -191,6 +202,7 @@ class MDIForm1 : public QMainWindow, public EditorHost {
   std::optional<SchemeRecord> schemeRecord_;
   std::int16_t schemeRecordNumber_ = 0;
   bool capsLock_ = false, numLock_ = false;
+  FrameScripts* scripts_ = nullptr;  // a child of the frame
 };
 
 }  // namespace lathwick::gui

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QStyle>
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 
 #include "document/document_table.h"
@@ -21,6 +22,7 @@
 #include "platform/gui/dialogs.h"
 #include "platform/app_folder.h"
 #include "shell/gui/mdi_form.h"
+#include "shell/gui/frame_scripts.h"
 #include "workspace/gui/menu_set.h"
 #include "workspace/history.h"
 
@@ -68,12 +70,26 @@ void MDIForm1::forgetWindow(int index) {
   if (it == windows_.end()) return;
   frmEditor* editor = it->second;
   windows_.erase(it);
+  emit documentClosed(editor);
   if (documents_.valid(index)) documents_.release(index);
   if (menusShownFor_ == editor) showMenusOf(nullptr);
   if (windows_.empty()) {
     showMenusOf(nullptr);
     En_Dis_able();
   }
+}
+
+namespace {
+std::string upperCased(std::string s) {
+  for (char& c : s) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  return s;
+}
+}  // namespace
+
+bool MDIForm1::scriptRunning() const { return scripts_ && scripts_->host().running(); }
+
+void MDIForm1::callLoadDoc(const std::string& fileName) {
+  if (scripts_) scripts_->host().callHook("LoadDoc", {vbs::Variant::str(fileName)});
 }
 
 frmEditor* MDIForm1::newDocument() {
@@ -88,7 +104,7 @@ frmEditor* MDIForm1::newDocument() {
   editor->prepare();
   applyAutoFormat();
   record.changed = false;
-  // The script procedure "LoadDoc" is called here once macros are available.
+  callLoadDoc(name);
   return editor;
 }
 
@@ -123,7 +139,8 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     recentListUpdate(fileName);
     record.changed = false;
     editor->ShowLineNum();
-    // The script procedure "LoadDoc" is called here once macros are available.
+    emit documentRead(editor);
+    callLoadDoc(fileName);
     return editor;
   } catch (const AppError& e) {
     dialogs().message(FileErrorText(e.number(), e.description()), kFileErrorCaption, Buttons::Ok, Icon::Information);
@@ -153,9 +170,12 @@ bool MDIForm1::SaveFile(frmEditor& window, const std::string& fileName) {
   DocumentRecord& record = window.record();
   record.fileName = fileName;
   window.setWindowTitle(q(captionAfterSave(fileName)));
-  // Saving "MAIN.VBS" reloads the macros once the script host is there.
   record.changed = false;
   recentListUpdate(fileName);
+  // A saved main script is what the macros are from now on.
+  std::string savedName = fileName;
+  if (scripts_ && upperCased(FileNameOf(savedName)) == "MAIN.VBS") scripts_->resetCode();
+  emit documentWritten(&window);
   return true;
 }
 

@@ -133,6 +133,20 @@ void frmOperate::showFor(TransformTarget& target) {
   activateWindow();
 }
 
+void frmOperate::runUnattended(TransformTarget& target, const OperateEntries& entries) {
+  target_ = &target;
+  loadFields();
+  range_ = operationRange(target.textLength(), target.selectionStart(), target.selectionLength(),
+                          [&target](long position) { return target.lineFromChar(position); });
+  cboAddress_->setEditText(fromBytes(entries.address));
+  const int op = cboOperators_->findText(fromBytes(entries.op));
+  if (op >= 0) cboOperators_->setCurrentIndex(op);
+  cboValue_->setEditText(fromBytes(entries.value));
+  cboFormat_->setEditText(fromBytes(entries.format));
+  onOK();
+  target_ = nullptr;
+}
+
 void frmOperate::forget(const TransformTarget* target) {
   if (target_ != target) return;
   target_ = nullptr;

@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include "platform/settings_store.h"
+#include "transform/operate.h"
 #include "transform/operation_range.h"
 
 class QComboBox;
@@ -28,6 +29,9 @@ class frmOperate : public QDialog {
   // inside one line stays a range) and shows the dialog (window-modal; returns at once).
   void showFor(TransformTarget& target);
   void forget(const TransformTarget* target);
+  // As a macro runs it: bound to `target` with its range, the entries put in, OK pressed, and
+  // the dialog closed again without being shown.
+  void runUnattended(TransformTarget& target, const transform::OperateEntries& entries);
 
   const transform::OperationRange& range() const { return range_; }
 

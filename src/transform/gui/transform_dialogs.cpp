@@ -36,6 +36,11 @@ void TransformDialogs::operate(TransformTarget& target) {
   operate_->showFor(target);
 }
 
+void TransformDialogs::operateUnattended(TransformTarget& target, const transform::OperateEntries& entries) {
+  frmOperate dialog(settings_, mainWindow_);
+  dialog.runUnattended(target, entries);
+}
+
 void TransformDialogs::forget(const TransformTarget* target) {
   if (search_) search_->forget(target);
   if (renumber_) renumber_->forget(target);

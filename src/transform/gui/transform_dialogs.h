@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include "platform/settings_store.h"
+#include "transform/operate.h"
 
 class QWidget;
 
@@ -28,6 +29,8 @@ class TransformDialogs {
   void setSearchReplace(TransformTarget& target);  // "&Set Search/Replace"
   void renumber(TransformTarget& target);          // mnuResequence
   void operate(TransformTarget& target);           // Operate
+  // Operate as a macro runs it: the dialog's OK with these entries, the dialog never shown.
+  void operateUnattended(TransformTarget& target, const transform::OperateEntries& entries);
 
   // A document window is closing: every dialog bound to it lets go and closes.
   void forget(const TransformTarget* target);
