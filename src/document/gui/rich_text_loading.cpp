@@ -17,6 +17,7 @@ namespace lathwick {
 namespace {
 constexpr std::size_t kPlainPiece = 1 << 20;  // plain text is read a megabyte at a time
 constexpr long kReadBackChunk = 1 << 20;      // edited styles are read back a megabyte at a time
+constexpr std::size_t kTypingRoom = 1 << 16;  // room for typing beyond a loaded text (and 1/32 of it)
 }  // namespace
 
 // Puts a document into the control as it arrives. Nothing is touched before the first piece
@@ -99,7 +100,9 @@ class RichTextLoader : public RtfTextSink {
     box_.SendScintilla(QsciScintillaBase::SCI_SETUNDOCOLLECTION, 0L);
     box_.SendScintilla(QsciScintillaBase::SCI_CLEARALL);
     box_.resetStyles();
-    box_.SendScintilla(QsciScintillaBase::SCI_ALLOCATE, static_cast<long>(sizeHint_ + 1));
+    // Room for the text and for typing after it: were the buffers exactly full, the first keys
+    // typed would make the control copy the whole document into larger ones.
+    box_.SendScintilla(QsciScintillaBase::SCI_ALLOCATE, static_cast<long>(sizeHint_ + sizeHint_ / 32 + kTypingRoom));
   }
 
   void appendText(std::string_view text) {
