@@ -236,20 +236,22 @@ class Reader : private detail::RtfReaderState {
 
   // ---- repeated attribute strings --------------------------------------------------------
   bool replayFormatRun() {
-    if (state_.destination != Destination::Text || unicodeSkipLeft_ != 0 || runStart_ || end_ - p_ < 8) return false;
-    std::uint64_t prefix;
-    std::memcpy(&prefix, p_, 8);
-    for (Memo& m : memos_) {
-      if (m.length == 0 || m.prefix != prefix || m.length > static_cast<std::size_t>(end_ - p_)) continue;
-      if (std::memcmp(p_, m.bytes.data(), m.length) != 0) continue;
-      state_.format = m.format;
-      replayed_ = &m;
-      refreshCodePage();
-      formatDirty_ = true;
-      p_ += m.length;
-      return true;
-    }
-    return false;
+    if (state_.destination != Destination::Text || unicodeSkipLeft_ != 0 || runStart_ ||
+        static_cast<std::size_t>(end_ - p_) < kMemoKeyLength)
+      return false;
+    std::uint64_t head, next;
+    std::memcpy(&head, p_, 8);
+    std::memcpy(&next, p_ + 8, 8);
+    Memo& m = memos_[memoSlot(head, next)];
+    if (m.length == 0 || m.head != head || m.next != next || m.length > static_cast<std::size_t>(end_ - p_) ||
+        std::memcmp(p_ + kMemoKeyLength, m.bytes.data() + kMemoKeyLength, m.length - kMemoKeyLength) != 0)
+      return false;
+    state_.format = m.format;
+    replayed_ = &m;
+    refreshCodePage();
+    formatDirty_ = true;
+    p_ += m.length;
+    return true;
   }
 
   void finish() {

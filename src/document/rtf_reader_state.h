@@ -145,7 +145,12 @@ class RtfReaderState {
   // ---- repeated attribute strings --------------------------------------------------------
   // The colorizer writes the same few attribute strings (\f0\fs20\cf1\b\i0\strike0\ul0 ) on
   // every line. A run of control words that sets every character format field, or starts with
-  // \plain, always gives the same format; once seen, the same bytes are not parsed again.
+  // \plain, always gives the same format; once seen, the same bytes are not parsed again. The
+  // remembered strings are found by their first 16 bytes (the first 8 are alike in all of them).
+  static constexpr std::size_t kMemoKeyLength = 16;
+  static std::size_t memoSlot(std::uint64_t head, std::uint64_t next) {
+    return static_cast<std::size_t>(((head ^ (next * 0x9E3779B97F4A7C15ull)) * 0xC2B2AE3D27D4EB4Full) >> 57);
+  }
 
   // A remembered attribute string is only valid for the tables it was read with.
   void forgetFormatRuns() {
@@ -156,12 +161,16 @@ class RtfReaderState {
   void endFormatRun(const char* end) {
     if (!runStart_) return;
     const std::size_t length = static_cast<std::size_t>(end - runStart_);
-    if (runFields_ == kAllFormatFields && length >= 8 && length <= kMaxMemoLength && runStart_[length - 1] == ' ' &&
-        unicodeSkipLeft_ == 0) {
-      Memo& m = memos_[nextMemo_++ % memos_.size()];
+    if (runFields_ == kAllFormatFields && length >= kMemoKeyLength && length <= kMaxMemoLength &&
+        runStart_[length - 1] == ' ' && unicodeSkipLeft_ == 0) {
+      std::uint64_t head, next;
+      std::memcpy(&head, runStart_, 8);
+      std::memcpy(&next, runStart_ + 8, 8);
+      Memo& m = memos_[memoSlot(head, next)];
       std::memcpy(m.bytes.data(), runStart_, length);
       m.length = length;
-      std::memcpy(&m.prefix, runStart_, 8);
+      m.head = head;
+      m.next = next;
       m.format = state_.format;
       m.formatIndex = kUnknownIndex;
     }
@@ -173,7 +182,8 @@ class RtfReaderState {
   struct Memo {
     std::array<char, kMaxMemoLength> bytes{};
     std::size_t length = 0;  // 0: empty
-    std::uint64_t prefix = 0;
+    std::uint64_t head = 0;  // bytes 0-7 and 8-15
+    std::uint64_t next = 0;
     RtfCharFormat format;
     std::uint32_t formatIndex = kUnknownIndex;  // its place in the table, once it has carried text
   };
@@ -221,8 +231,7 @@ class RtfReaderState {
   const char* wordStart_ = nullptr;
   const char* runStart_ = nullptr;
   unsigned runFields_ = 0;
-  std::array<Memo, 8> memos_{};
-  std::size_t nextMemo_ = 0;
+  std::array<Memo, 128> memos_{};  // by memoSlot()
   Memo* replayed_ = nullptr;  // the format in force is this memo's (no word has changed it since)
   // interned formats
   std::unordered_map<std::uint64_t, std::uint32_t> formatIndexes_;
