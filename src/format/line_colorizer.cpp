@@ -1,5 +1,7 @@
 #include "format/line_colorizer.h"
 
+#include <cstring>
+
 namespace lathwick {
 
 namespace {
@@ -178,6 +180,36 @@ void LineColorizer::markComment() {
 }
 
 void LineColorizer::emit(std::string_view line, std::string& out) const {
+  if (occurs('\\') || occurs('{') || occurs('}')) {
+    emitEscaped(line, out);
+    return;
+  }
+  // No character to escape: only the positions with a code matter, found eight at a time.
+  const std::size_t len = line.size();
+  std::uint8_t current = kEndOfWord;
+  std::size_t runStart = 0;  // 0-based start of the characters not yet appended
+  std::size_t i = 1;
+  while (i <= len + 1) {
+    std::uint64_t eight = 0;
+    if (i + 8 <= codes_.size()) std::memcpy(&eight, codes_.data() + i, 8);
+    if (i + 8 <= codes_.size() && eight == 0) {
+      i += 8;
+      continue;
+    }
+    const std::uint8_t c = codes_[i];
+    if (c != kNoCode && c != current) {
+      out.append(line.data() + runStart, (i - 1) - runStart);
+      runStart = i - 1;
+      current = c;
+      out += strings_[c];
+    }
+    ++i;
+  }
+  out.append(line.data() + runStart, len - runStart);
+}
+
+// The same for a line with "\\", "{" or "}": each is escaped, after the code string at its place.
+void LineColorizer::emitEscaped(std::string_view line, std::string& out) const {
   const std::size_t len = line.size();
   std::uint8_t current = kEndOfWord;
   std::size_t runStart = 0;  // 0-based start of the characters not yet appended
