@@ -15,7 +15,7 @@ namespace lathwick::gui {
 void frmEditor::Colorize(int view) {
   const EditorFiles& files = frame_.editorFiles();
   try {
-    text_->saveFile(files.input, TextKind::Plain);
+    text_->saveFile(files.input, TextKind::Plain, Durability::Scratch);
   } catch (const std::exception&) {
     return;  // no input file: the run does nothing and says nothing
   }

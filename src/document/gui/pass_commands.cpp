@@ -33,7 +33,7 @@ long frmEditor::lineLength(long line) const { return text_->lineLength(static_ca
 
 bool frmEditor::savePlainText(const std::string& path) {
   try {
-    text_->saveFile(path, TextKind::Plain);
+    text_->saveFile(path, TextKind::Plain, Durability::Scratch);  // the input work file of a pass
     return true;
   } catch (const std::exception&) {
     return false;
