@@ -7,6 +7,7 @@
 #include "support/cli_runner.h"
 
 using lathwick::test::CliResult;
+using lathwick::test::readBytes;
 using lathwick::test::runCli;
 using lathwick::test::TempDir;
 
@@ -66,11 +67,6 @@ TEST(ToolpathCli, MissingFileAndMissingArgument) {
   EXPECT_EQ(runCli({"toolpath", "a", "b"}).exitCode, 2);
 }
 
-std::string readFile(const std::filesystem::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
 TEST(ToolpathCli, CorpusProgramsMatchTheirGoldenOutput) {
   const std::string corpus = lathwick::test::corpusDir("gcode");
   if (corpus.empty()) GTEST_SKIP() << "shared corpus not present";
@@ -83,9 +79,9 @@ TEST(ToolpathCli, CorpusProgramsMatchTheirGoldenOutput) {
     const std::string in = (std::filesystem::path(corpus) / name).string();
     const CliResult path = runCli({"toolpath", in});
     EXPECT_EQ(path.exitCode, 0);
-    EXPECT_EQ(path.out, readFile(entry.path()));
-    EXPECT_EQ(path.err, readFile(golden / (name + ".warnings")));
-    EXPECT_EQ(runCli({"bounds", in}).out, readFile(golden / (name + ".bounds")));
+    EXPECT_EQ(path.out, readBytes(entry.path()));
+    EXPECT_EQ(path.err, readBytes(golden / (name + ".warnings")));
+    EXPECT_EQ(runCli({"bounds", in}).out, readBytes(golden / (name + ".bounds")));
     ++checked;
   }
   EXPECT_GE(checked, 5);

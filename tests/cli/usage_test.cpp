@@ -5,19 +5,17 @@
 
 using lathwick::test::runCli;
 
-TEST(CliUsage, HelpPrintsEverySubcommandAndExitsZero) {
+TEST(CliUsage, HelpPrintsEverySubcommandAndMisuseExitsTwo) {
   const auto r = runCli({"--help"});
   EXPECT_EQ(r.exitCode, 0);
   for (const char* sub : {"colorize", "replace", "highlight", "operate", "renumber", "add-spaces",
                           "remove-spaces", "junk-filter", "scheme", "rtf-text", "run"})
     EXPECT_NE(r.out.find(sub), std::string::npos) << sub;
-}
-
-TEST(CliUsage, NoArgumentsOrUnknownSubcommandIsAUsageError) {
-  auto r = runCli({});
-  EXPECT_EQ(r.exitCode, 2);
-  EXPECT_NE(r.err.find("Usage:"), std::string::npos);
-  r = runCli({"frobnicate"});
-  EXPECT_EQ(r.exitCode, 2);
-  EXPECT_NE(r.err.find("frobnicate"), std::string::npos);
+  // No arguments or an unknown subcommand: a usage error.
+  const auto none = runCli({});
+  EXPECT_EQ(none.exitCode, 2);
+  EXPECT_NE(none.err.find("Usage:"), std::string::npos);
+  const auto unknown = runCli({"frobnicate"});
+  EXPECT_EQ(unknown.exitCode, 2);
+  EXPECT_NE(unknown.err.find("frobnicate"), std::string::npos);
 }

@@ -26,7 +26,7 @@ TEST(DocumentTable, FreeSlotsAreReusedLowestFirstAndTheTableGrowsOtherwise) {
   EXPECT_THROW(table.record(5), std::out_of_range);
 }
 
-TEST(DocumentTable, NamesAndCaptions) {
+TEST(DocumentTable, NamesCaptionsAndSaveNames) {
   EXPECT_EQ(untitledName(3), "Untitled 3");
   EXPECT_TRUE(isRichTextName("C:\\x.rtf"));
   EXPECT_TRUE(isRichTextName("x.RTF"));
@@ -37,9 +37,7 @@ TEST(DocumentTable, NamesAndCaptions) {
   EXPECT_EQ(captionAfterSave(long_), "C:\\ ...\\JOB42\\PART.NC");
   EXPECT_EQ(captionAfterLoad("a.nc"), "a.nc");
   EXPECT_EQ(emptyFileMessage("a.nc"), "The file [a.nc] is empty.");
-}
-
-TEST(DocumentTable, SaveNeedsANameWhileUntitledAndChosenNamesLoseTheStrayDot) {
+  // Save needs a name while untitled; chosen names lose the stray dot.
   EXPECT_TRUE(saveNeedsName("Untitled 2"));
   EXPECT_TRUE(saveNeedsName("C:\\Untitled 2.nc"));
   EXPECT_FALSE(saveNeedsName("untitled 2"));  // case-sensitive on purpose
@@ -55,17 +53,20 @@ TEST(DocumentTable, CloseQueryAnswers) {
   record.changed = true;
   EXPECT_TRUE(closeNeedsQuery(record));
 
-  const CloseDecision cancel = decideClose(QueryAnswer::Cancel, "A.NC");
-  EXPECT_TRUE(cancel.cancel);
-  EXPECT_EQ(cancel.save, CloseDecision::Save::None);
-  const CloseDecision no = decideClose(QueryAnswer::No, "A.NC");
-  EXPECT_FALSE(no.cancel);
-  EXPECT_EQ(no.save, CloseDecision::Save::None);
-  const CloseDecision yes = decideClose(QueryAnswer::Yes, "A.NC");
-  EXPECT_FALSE(yes.cancel);
-  EXPECT_EQ(yes.save, CloseDecision::Save::UnderRecordName);
   // Only a caption that begins with "Untitled" asks for a name.
-  EXPECT_EQ(decideClose(QueryAnswer::Yes, "Untitled 4").save, CloseDecision::Save::AskForName);
-  EXPECT_EQ(decideClose(QueryAnswer::Yes, "C:\\Untitled 4").save, CloseDecision::Save::UnderRecordName);
-  EXPECT_FALSE(decideClose(QueryAnswer::Yes, "Untitled 4").cancel);
+  const struct {
+    QueryAnswer answer;
+    const char* caption;
+    bool cancel;
+    CloseDecision::Save save;
+  } cases[] = {{QueryAnswer::Cancel, "A.NC", true, CloseDecision::Save::None},
+               {QueryAnswer::No, "A.NC", false, CloseDecision::Save::None},
+               {QueryAnswer::Yes, "A.NC", false, CloseDecision::Save::UnderRecordName},
+               {QueryAnswer::Yes, "Untitled 4", false, CloseDecision::Save::AskForName},
+               {QueryAnswer::Yes, "C:\\Untitled 4", false, CloseDecision::Save::UnderRecordName}};
+  for (const auto& c : cases) {
+    const CloseDecision d = decideClose(c.answer, c.caption);
+    EXPECT_EQ(d.cancel, c.cancel) << c.caption;
+    EXPECT_EQ(d.save, c.save) << c.caption;
+  }
 }

@@ -35,14 +35,6 @@ TEST(EasyTextFile, QuotesCommasAndLineBreaksInsideTextsSurviveByteForByte) {
   EXPECT_EQ(readCategory(dir.file("Mill.dis")), snippets);
 }
 
-TEST(EasyTextFile, AddRemoveCommentSwapsQuotesBothWays) {
-  std::string text = "a\"b\"";
-  AddRemoveComment(text, true);
-  EXPECT_EQ(text, "a\x7f" "b\x7f");
-  AddRemoveComment(text, false);
-  EXPECT_EQ(text, "a\"b\"");
-}
-
 TEST(EasyTextCategory, AnEmptyFileIsAnEmptyListAndANewSnippetWritesCountOne) {
   TempDir dir;
   dir.write("Empty.dis", "");

@@ -57,17 +57,12 @@ TEST(RecentFiles, ReopeningTheThirdMovesItFirstAndLeavesTheRest) {
   EXPECT_FALSE(s.has("RecentFiles", "RecentFile9"));
 }
 
-TEST(RecentFiles, FilesThatDoNotExistChangeNothing) {
+TEST(RecentFiles, MenuCaptionsNumberShortenedPathsWithOneOrTwoBlanksAndMissingFilesChangeNothing) {
   TempDir dir;
   SettingsStore s(dir.file("s.ini"));
   EXPECT_FALSE(lathwick::RecentListUpdate(s, "Untitled 1", false));
   EXPECT_TRUE(s.all("RecentFiles").empty());
   EXPECT_TRUE(lathwick::RecentMenuEntries(s, false).empty());
-}
-
-TEST(RecentFiles, MenuCaptionsNumberShortenedPathsWithOneOrTwoBlanks) {
-  TempDir dir;
-  SettingsStore s(dir.file("s.ini"));
   lathwick::RecentListUpdate(s, "C:\\CNC\\Programs\\Customer\\Job42\\part.nc", true);
   lathwick::RecentListUpdate(s, "/a.nc", true);
   const auto main = lathwick::RecentMenuEntries(s, false);

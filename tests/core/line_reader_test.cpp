@@ -19,11 +19,8 @@ std::vector<std::string> linesOf(const std::string& bytes) {
 using Lines = std::vector<std::string>;
 }  // namespace
 
-TEST(LineReader, BreaksAtCrLfAndLoneCrButNotLoneLf) {
+TEST(LineReader, BreaksAtCrLfAndLoneCrButNotLoneLfAndAFinalBreakAddsNoLine) {
   EXPECT_EQ(linesOf("a\r\nb\rc\nd\r\n"), (Lines{"a", "b", "c\nd"}));
-}
-
-TEST(LineReader, FinalBreakAddsNoLineAndEmptyFileHasNone) {
   EXPECT_EQ(linesOf(""), Lines{});
   EXPECT_EQ(linesOf("\r\n"), Lines{""});
   EXPECT_EQ(linesOf("x"), Lines{"x"});

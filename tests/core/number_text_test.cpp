@@ -10,7 +10,7 @@
 namespace lathwick {
 namespace {
 
-TEST(NumberText, ReadsDecimalForms) {
+TEST(NumberText, ReadsDecimalFormsAndHexAndOctalAsSignedWords) {
   EXPECT_EQ(parseNumberText(" 12 "), 12.0);
   EXPECT_EQ(parseNumberText("-1.5"), -1.5);
   EXPECT_EQ(parseNumberText("+.5"), 0.5);
@@ -18,9 +18,6 @@ TEST(NumberText, ReadsDecimalForms) {
   EXPECT_EQ(parseNumberText("1E3"), 1000.0);
   EXPECT_EQ(parseNumberText("1D2"), 100.0);
   EXPECT_EQ(parseNumberText("2.5d-1"), 0.25);
-}
-
-TEST(NumberText, ReadsHexAndOctalAsSignedWords) {
   EXPECT_EQ(parseNumberText("&HFFFF"), -1.0);
   EXPECT_EQ(parseNumberText("&hff"), 255.0);
   EXPECT_EQ(parseNumberText("&H0FFFF"), 65535.0);
@@ -50,7 +47,7 @@ TEST(NumberText, SettingsReadersAndMacrosAgree) {
   EXPECT_THROW(toInt16("1D5"), AppError);  // 100000 overflows a 16-bit value
 }
 
-TEST(ErrorTexts, ConstantsCarryTheirOwnTexts) {
+TEST(ErrorTexts, ConstantsCarryTheirOwnTextsAndUnknownNumbersAFallback) {
   EXPECT_EQ(makeError(err::kBadFileNameOrNumber).description(), "Bad file name or number");
   EXPECT_EQ(makeError(err::kBadFileName).description(), "Bad file name");
   EXPECT_EQ(makeError(err::kPathFileAccessError).description(), "Path/File access error");
@@ -60,9 +57,6 @@ TEST(ErrorTexts, ConstantsCarryTheirOwnTexts) {
             "Wrong number of arguments or invalid property assignment");
   EXPECT_EQ(errorText(err::kOutOfStringSpace), "Out of string space");
   EXPECT_EQ(errorText(1041), "Name redefined");
-}
-
-TEST(ErrorTexts, UnknownNumbers) {
   EXPECT_FALSE(isKnownError(12345));
   EXPECT_EQ(errorText(12345), "Unknown runtime error");
   EXPECT_EQ(makeError(12345).description(), "Application-defined or object-defined error");

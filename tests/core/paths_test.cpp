@@ -31,14 +31,11 @@ TEST(Paths, ChangeExtensionOverwritesOnlyAThreeLetterExtension) {
   }
 }
 
-TEST(Paths, ShortenPathSearchesFromLengthMinusMaximumPlusSix) {
+TEST(Paths, ShortenPathSearchesFromLengthMinusMaximumPlusSixAndKeepsTheFileName) {
   EXPECT_EQ(ShortenPath("C:\\CNC\\Programs\\Customer\\Job42\\part.nc", 25), "C:\\ ...\\Job42\\part.nc");
   EXPECT_EQ(ShortenPath("/short.nc", 25), "/short.nc");
   EXPECT_EQ(ShortenPath("/home/machinist/programs/bracket/op1.nc", 25), "/home .../bracket/op1.nc");
   EXPECT_EQ(ShortenPath("jobs/customer/2024/march/op1.nc", 25), "jobs .../2024/march/op1.nc");
-}
-
-TEST(Paths, ShortenPathAlwaysKeepsTheFileName) {
   // A long name leaves no separator in the search range: the name is kept with its separator,
   // so two long names in one folder never shorten to the same caption.
   EXPECT_EQ(ShortenPath("/tmp/lathwick/bracket_roughing_op1.nc", 25), "/tmp .../bracket_roughing_op1.nc");
@@ -50,7 +47,7 @@ TEST(Paths, ShortenPathAlwaysKeepsTheFileName) {
   EXPECT_EQ(ShortenPath(std::string(40, 'x'), 25), std::string(40, 'x'));
 }
 
-TEST(AppFolder, FileExistsOnlyForNormalFiles) {
+TEST(AppFolder, FileExistsOnlyForNormalFilesAndWithBackslashAddsOneSeparator) {
   test::TempDir dir;
   dir.write("part.nc", "G0");
   dir.write(".hidden", "x");
@@ -66,11 +63,9 @@ TEST(AppFolder, FileExistsOnlyForNormalFiles) {
   EXPECT_FALSE(FileExists("C:\\"));
   EXPECT_FALSE(FileExists("    "));
   EXPECT_FALSE(FileExists(dir.file("nope.nc")));
-}
-
-TEST(AppFolder, WithBackslashTrimsAndAddsOneSeparator) {
   EXPECT_EQ(WithBackslash("  C:\\Jobs  "), "C:\\Jobs/");
   EXPECT_EQ(WithBackslash("C:\\Jobs\\"), "C:\\Jobs\\");
   EXPECT_EQ(WithBackslash("/opt/lathwick/"), "/opt/lathwick/");
   EXPECT_EQ(WithBackslash("   "), "");
 }
+

@@ -10,7 +10,7 @@
 using lathwick::SettingsStore;
 using lathwick::test::TempDir;
 
-TEST(SettingsStore, KeysComeBackInFirstStoredOrderAcrossReloads) {
+TEST(SettingsStore, KeysComeBackInFirstStoredOrderAndValuesWholeAcrossReloads) {
   TempDir dir;
   const std::string path = dir.file("cfg/Lathwick.ini");  // folder created on first save
   {
@@ -19,20 +19,15 @@ TEST(SettingsStore, KeysComeBackInFirstStoredOrderAcrossReloads) {
     s.save("cboFind", "cboFind1", "a");
     s.save("cboFind", "cboFind2", "b");
     s.save("cboFind", "cboFind3", "C");  // updating keeps the position
+    s.save("Startup", "LastPath", "C:\\Jobs\\a=b; [x]\r\nline two\\n");  // special characters
   }
   SettingsStore s(path);
+  EXPECT_EQ(s.get("Startup", "LastPath"), "C:\\Jobs\\a=b; [x]\r\nline two\\n");
   const lathwick::SettingPairs expected{{"cboFind3", "C"}, {"cboFind1", "a"}, {"cboFind2", "b"}};
   EXPECT_EQ(s.all("cboFind"), expected);
   EXPECT_EQ(s.all("CBOFIND"), expected);
   EXPECT_EQ(s.get("cbofind", "CBOFIND1"), "a");
   EXPECT_EQ(s.get("cboFind", "missing", "dflt"), "dflt");
-}
-
-TEST(SettingsStore, ValuesWithSpecialCharactersRoundTrip) {
-  TempDir dir;
-  const std::string value = "C:\\Jobs\\a=b; [x]\r\nline two\\n";
-  SettingsStore(dir.file("s.ini")).save("Startup", "LastPath", value);
-  EXPECT_EQ(SettingsStore(dir.file("s.ini")).get("Startup", "LastPath"), value);
 }
 
 TEST(SettingsStore, WritesLeaveNoTemporaryFilesAndDeleteAllRemovesTheFile) {

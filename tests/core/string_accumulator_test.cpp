@@ -5,7 +5,7 @@
 
 using lathwick::clsMidConcat;
 
-TEST(StringAccumulator, GrowsInStepsAndCleanupCutsToTheText) {
+TEST(StringAccumulator, GrowsInStepsLongPiecesAndExactFitsAndCleanupCutsToTheText) {
   std::vector<std::string> reports;
   {
     clsMidConcat acc([&](const std::string& m) { reports.push_back(m); });
@@ -23,9 +23,6 @@ TEST(StringAccumulator, GrowsInStepsAndCleanupCutsToTheText) {
     EXPECT_EQ(next, "N10");
   }
   EXPECT_TRUE(reports.empty());
-}
-
-TEST(StringAccumulator, LongPiecesAndExactFitsGrowTheBuffer) {
   clsMidConcat acc([](const std::string&) {});
   acc.BufferLen(10);
   std::string buffer;

@@ -88,7 +88,7 @@ TEST(ToolpathArcs, HelicalArcRisesAlongTheNormalAndCountsItsRiseInLength) {
   expectPoint(pointOnArc(m, s, 0.5), 10, 0, -2.5, 1e-9);
 }
 
-TEST(ToolpathArcs, UnreachableRadiusWarnsAndGoesStraightToTheEndPoint) {
+TEST(ToolpathArcs, UnreachableRadiusWarnsAndGoesStraightToTheEndPointAndAnEndOffItsCircleIsWarned) {
   const Modelled r = model("G1 F100\nG2 X10 Y0 R2\nG1 X20\nG2 X20 Y0 R5\nG2 X30\n");
   ASSERT_EQ(r.moves.size(), 3u);
   EXPECT_EQ(r.moves[0].kind, MoveKind::Feed);
@@ -101,14 +101,12 @@ TEST(ToolpathArcs, UnreachableRadiusWarnsAndGoesStraightToTheEndPoint) {
   EXPECT_EQ(r.warnings[2].line, 5u);
   EXPECT_EQ(r.warnings[2].text, "arc without I J K or R");
   expectPoint(r.moves[2].end, 30, 0, 0);
-}
-
-TEST(ToolpathArcs, EndPointOffItsCircleIsDrawnButWarned) {
-  const Modelled r = model("G1 F100\nG2 X10 Y0.5 I5 J0\nG2 X20 Y0.5 I5 J0.001\n");
-  ASSERT_EQ(r.moves.size(), 2u);
-  ASSERT_EQ(r.warnings.size(), 1u);
-  EXPECT_EQ(r.warnings[0].line, 2u);
-  EXPECT_EQ(r.warnings[0].text.rfind("arc end point off its circle by", 0), 0u);
+  // An end point off its circle is drawn but warned.
+  const Modelled off = model("G1 F100\nG2 X10 Y0.5 I5 J0\nG2 X20 Y0.5 I5 J0.001\n");
+  ASSERT_EQ(off.moves.size(), 2u);
+  ASSERT_EQ(off.warnings.size(), 1u);
+  EXPECT_EQ(off.warnings[0].line, 2u);
+  EXPECT_EQ(off.warnings[0].text.rfind("arc end point off its circle by", 0), 0u);
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ TEST(FindNext, WalksTheOccurrencesThenCompletesAndStartsAgain) {
   EXPECT_EQ(t.selStart, 0);  // from the range start again
 }
 
-TEST(FindNext, ReplaceMovesTheRangeEndByTheLengthDifference) {
+TEST(FindNext, ReplaceMovesTheRangeEndByTheLengthDifferenceAndWithoutASelectionOnlyFinds) {
   TextTarget t("X1 X1 Y1 X1");
   FindNextState s;
   s.setTexts("X1", "X100");
@@ -67,16 +67,13 @@ TEST(FindNext, ReplaceMovesTheRangeEndByTheLengthDifference) {
   EXPECT_EQ(t.selStart, 5);
   EXPECT_EQ(s.replaceAndFindNext(t), FindStep::SearchComplete);
   EXPECT_EQ(t.text, "X100 X100 Y1 X1");  // the one outside the range is left
-}
-
-TEST(FindNext, ReplaceWithoutASelectionOnlyFinds) {
-  TextTarget t("A X1");
-  FindNextState s;
+  // Without a selection Replace only finds.
+  TextTarget u("A X1");
   s.setTexts("X1", "X2");
   s.setRange(0, 4);
-  EXPECT_EQ(s.replaceAndFindNext(t), FindStep::Found);
-  EXPECT_EQ(t.text, "A X1");
-  EXPECT_EQ(t.selStart, 2);
+  EXPECT_EQ(s.replaceAndFindNext(u), FindStep::Found);
+  EXPECT_EQ(u.text, "A X1");
+  EXPECT_EQ(u.selStart, 2);
 }
 
 TEST(FindNext, ControlFindHonoursWholeWordAndCase) {

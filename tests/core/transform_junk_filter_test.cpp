@@ -6,13 +6,10 @@
 
 using namespace lathwick::transform;
 
-TEST(JunkFilter, DropsTheLeaderAndTurnsLineFeedsIntoCrLf) {
+TEST(JunkFilter, DropsTheLeaderTabsControlCharactersAndHighBytesAndTurnsLineFeedsIntoCrLf) {
   EXPECT_EQ(junkFilter("\n\n\n%\nN10 G00\n"), "%\r\nN10 G00\r\n");
   EXPECT_EQ(junkFilter("\x12\x7f\xff   \t%\r\nX1"), "%\r\nX1\r\n");
   EXPECT_EQ(junkFilter("A\r\nB\nC\r\n"), "A\r\nB\r\nC\r\n");
-}
-
-TEST(JunkFilter, RemovesTabsControlCharactersAndHighBytes) {
   EXPECT_EQ(junkFilter("X1\tY2\n"), "X1Y2\r\n");
   const char withNul[] = "X1\xa0Y2\xff\x0c\x00Z\n";
   EXPECT_EQ(junkFilter(std::string_view(withNul, sizeof withNul - 1)), "X1Y2Z\r\n");

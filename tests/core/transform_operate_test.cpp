@@ -88,7 +88,7 @@ TEST(Operate, ValidationOrderAndTexts) {
   EXPECT_FALSE(validateOperate({"X", "/", "0.5", "0"}).resetOperator);
 }
 
-TEST(Operate, ReadsTheLeadingNumberOfAValue) {
+TEST(Operate, ReadsTheLeadingNumberOfAValueShortOrLong) {
   EXPECT_EQ(leadingValue("1.5/2"), 1.5);
   EXPECT_EQ(leadingValue("+5"), 5);
   EXPECT_EQ(leadingValue("-"), 0);
@@ -108,15 +108,12 @@ TEST(Operate, ScalesEveryChosenAddressAndMarksTheNewValues) {
   EXPECT_EQ(operated("X1.5/2,Y", "X", '*', 1), "X<1.5>,Y");  // the stepped-over "/2" goes too
 }
 
-TEST(Operate, LoneLettersLowerCaseAndOtherLettersAreLeftAlone) {
+TEST(Operate, LoneLettersLowerCaseAndOtherLettersAreLeftAloneAndMarkersFollowTheValues) {
   long n = 0;
   EXPECT_EQ(operated("X G01 x5 X", "X", '*', 2, "0", false, &n), "X G01 x5 X");
   EXPECT_EQ(n, 0);
   EXPECT_EQ(operated("G01 X1 F100", "XY", '*', 2, "0", false, &n), "G01 X<2> F100");
   EXPECT_EQ(n, 1);
-}
-
-TEST(Operate, MarkersFollowTheValuesWhenAnEarlierValueChangesLength) {
   // X comes first in the addresses but last in the line; Y's longer value moves it right.
   EXPECT_EQ(operated("Y1 X1", "XY", '*', 10, "0.000"), "Y<10.000> X<10.000>");
 }
@@ -198,9 +195,6 @@ TEST(NumericPicture, QuickDigitsAgreeWithTheExactOnesOrDecline) {
     ASSERT_EQ(a.pointPos, b.pointPos) << v;
   }
   EXPECT_GT(quick, 300000);  // the quick way answers nearly always
-}
-
-TEST(Operate, ShortAndLongValuesReadTheSame) {
   EXPECT_EQ(leadingValue("0.1"), 0.1);
   EXPECT_EQ(leadingValue("123456789012.345"), 123456789012.345);
   EXPECT_EQ(leadingValue("1234567890123456789"), 1234567890123456789.0);

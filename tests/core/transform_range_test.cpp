@@ -54,7 +54,7 @@ TEST(OperationRange, SelectionGivesLinesAndLabel) {
   }
 }
 
-TEST(OperationRange, SearchTakesAOneLineSelectionAsTheFindTextWithoutControlCharacters) {
+TEST(OperationRange, SearchTakesAOneLineSelectionAsTheFindTextAndKeepsSeveralLinesAsARange) {
   const std::string doc = "G01\tX1\r\nY2";
   const auto s = searchDialogRange(static_cast<long>(doc.size()), 0, 6, linesOf(doc), "G01\tX1");
   EXPECT_TRUE(s.fillFindText);
@@ -65,11 +65,9 @@ TEST(OperationRange, SearchTakesAOneLineSelectionAsTheFindTextWithoutControlChar
   EXPECT_EQ(s.range.lines.last, 2);
   EXPECT_EQ(s.range.firstChar, 0);
   EXPECT_EQ(s.range.lastChar, static_cast<long>(doc.size()));
-}
-
-TEST(OperationRange, SearchKeepsASelectionOverSeveralLinesAsARange) {
-  const auto s = searchDialogRange(static_cast<long>(kDoc.size()), 9, 10, linesOf(kDoc), "x");
-  EXPECT_FALSE(s.fillFindText);
-  EXPECT_EQ(s.range.label, "Range= Line 2 to 3");
+  const auto several = searchDialogRange(static_cast<long>(kDoc.size()), 9, 10, linesOf(kDoc), "x");
+  EXPECT_FALSE(several.fillFindText);
+  EXPECT_EQ(several.range.label, "Range= Line 2 to 3");
   EXPECT_EQ(printableOnly("a\x01\x7f\xff b~"), "a b~");
 }
+

@@ -20,19 +20,16 @@ Lines added(Lines lines, const std::string& comment = "(") { return run(AddSpace
 Lines removed(Lines lines, const std::string& comment = "(") { return run(RemoveSpacesLine(comment), lines); }
 }  // namespace
 
-TEST(AddSpaces, SpaceOnlyWhereALetterFollowsADigitOrPoint) {
+TEST(AddSpaces, SpaceOnlyWhereALetterFollowsADigitOrPointInTheCodePart) {
   EXPECT_EQ(added({"N10G01X-1.5Y2.0F100"}), Lines{"N10 G01 X-1.5 Y2.0 F100"});
   EXPECT_EQ(added({"X1.Y2", "GOTO5", "XY", "g1x2"}), (Lines{"X1. Y2", "GOTO5", "XY", "g1 x2"}));
   EXPECT_EQ(added({"G01 X1"}), Lines{"G01 X1"});  // a letter after a space gets no second one
-}
-
-TEST(AddSpaces, CommentPartIsUntouchedAndTheDelimiterBelongsToTheCode) {
   EXPECT_EQ(added({"G01X1(MOVEX1Y2)"}), Lines{"G01 X1(MOVEX1Y2)"});
   EXPECT_EQ(added({"G01X1;A1B2", "  G1X1  ;A1B2"}, ";"), (Lines{"G01 X1;A1B2", "G1 X1  ;A1B2"}));
   EXPECT_EQ(added({"G1X1   "}), Lines{"G1 X1"});  // blanks around the code part go
 }
 
-TEST(AddSpaces, PreviousNumericFlagCarriesAcrossLineEnds) {
+TEST(AddSpaces, PreviousNumericFlagCarriesAcrossLineEndsAndTwiceGivesTheSameAsOnce) {
   // The first line ends in a digit, so the next line's first letter gets a space, which the
   // trim then removes again; the carried flag shows on a line starting with a blank and a letter.
   EXPECT_EQ(added({"X1", "Y2"}), (Lines{"X1", "Y2"}));
@@ -40,9 +37,6 @@ TEST(AddSpaces, PreviousNumericFlagCarriesAcrossLineEnds) {
   std::string a = "X1", b = "Y2";
   t.apply(1, a);
   EXPECT_FALSE(t.apply(2, b));
-}
-
-TEST(AddSpaces, TwiceGivesTheSameAsOnce) {
   const Lines in = {"N10G01X-1.5Y2.0F100", "G01X1(MOVEX1Y2)", "  X1.Y2  ", "", "   ", "%", "T1M6(TOOL1)G0"};
   const Lines once = added(in);
   EXPECT_EQ(added(once), once);

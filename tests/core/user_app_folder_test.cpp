@@ -3,13 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <vector>
 
 #include "platform/file_system.h"
 #include "platform/install_layout.h"
 #include "platform/app_folder.h"
-#include "shell/startup.h"
-#include "support/temp_dir.h"
+#include "startup_host.h"
 
 namespace {
 namespace fs = std::filesystem;
@@ -38,32 +36,12 @@ void fillLikeInstalled(const TempDir& d) {
   d.write("samples/bracket.nc", "G00 X0\r\n");
 }
 
-class Host : public lathwick::StartupHost {
- public:
-  Host(const TempDir& home, std::string exe, std::string installed, std::string user)
-      : store(home.file("settings.ini")), exe_(std::move(exe)), installed_(std::move(installed)), user_(std::move(user)) {}
-  lathwick::SettingsStore store;
-  std::vector<std::string> errors;
-  std::string executableFolder() override { return exe_; }
-  std::string commandLine() override { return ""; }
-  void makeCurrentDirectory(const std::string&) override {}
-  lathwick::SettingsStore& settings() override { return store; }
-  void showSplash() override {}
-  void showMissingDataFile(const std::string& m) override { errors.push_back(m); }
-  void loadMainWindow(const lathwick::AppValues&) override {}
-  void loadSchemeEditor(const lathwick::AppValues&) override {}
-  void showStartupError(const std::string& m, const std::string&) override { errors.push_back(m); }
-  std::string installedDataFolder() override { return installed_; }
-  std::string userAppFolder() override { return user_; }
-
- private:
-  std::string exe_, installed_, user_;
-};
+using Host = lathwick::test::FakeStartupHost;
 
 struct Machine {
   TempDir home, bin, installed, user;
   Machine() { fillLikeInstalled(installed); }
-  Host host() { return Host(home, bin.str(), installed.folder(), user.folder() + "lathwick/"); }
+  Host host() const { return Host(home, bin.str(), installed.folder(), user.folder() + "lathwick/"); }
   std::string userFolder() const { return user.folder() + "lathwick/"; }
 };
 }  // namespace
@@ -113,7 +91,7 @@ TEST(UserAppFolder, InstalledProgramWorksInTheUsersCopyFromTheFirstStart) {
   ReadOnly ro(m.installed);
   const auto r = lathwick::runStartup(host);
   ASSERT_EQ(r.outcome, lathwick::StartupOutcome::Running);
-  EXPECT_TRUE(host.errors.empty());
+  EXPECT_EQ(host.calls, (std::vector<std::string>{"chdir", "splash", "main", "setup"}));  // nothing reported
   EXPECT_EQ(r.values.AppFolder, m.userFolder());
   EXPECT_EQ(r.values.DataFilePath, m.userFolder() + "Lathwick.dat");
   EXPECT_EQ(r.values.UndoFile, m.userFolder() + "UNDO.RTF");

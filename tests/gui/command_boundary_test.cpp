@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "frame_fixture.h"
-#include "platform/errors.h"
 #include "platform/gui/command_guard.h"
 #include "shell/gui/status_panels.h"
 
@@ -33,12 +32,6 @@ TEST_F(FrameTest, AnExceptionInsideACommandIsReportedAndTheDocumentsStay) {
   EXPECT_EQ(dialogs.messages[0].caption, "Lathwick");
   EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Exclamation);
   EXPECT_EQ(frame->statusPanels().text("Stat"), "Press F1 for help.");
-
-  // The program's own errors keep their number and text.
-  frame->commands().add("mnuAbout", [](int) { throw AppError(6, "Overflow"); });
-  trigger("mnuAbout");
-  ASSERT_EQ(dialogs.messages.size(), 2u);
-  EXPECT_EQ(dialogs.messages[1].text, "The error 6 Overflow occurred.");
 
   // The editor goes on: the document is as it was and other commands still run.
   ASSERT_EQ(frame->editors().size(), 1u);

@@ -3,9 +3,9 @@
 #include <QDialog>
 #include <QShortcut>
 #include <QTimer>
-#include <filesystem>
 
 #include "frame_fixture.h"
+#include "platform/gui/help_key.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
@@ -16,6 +16,7 @@ namespace {
 std::string pageOfHelpKey(QWidget* window, const std::vector<std::string>& opened) {
   auto* key = window ? window->findChild<QShortcut*>(QStringLiteral("helpKey")) : nullptr;
   if (!key) return {};
+  EXPECT_EQ(key->key(), QKeySequence(Qt::Key_F1));
   const std::size_t before = opened.size();
   emit key->activated();
   if (opened.size() != before + 1) return {};
@@ -23,9 +24,7 @@ std::string pageOfHelpKey(QWidget* window, const std::vector<std::string>& opene
 }
 
 TEST_F(FrameTest, F1InEachDialogOpensItsOwnPage) {
-  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   for (const char* page : {"operate.html", "renumber.html", "sendto.html", "easytext.html", "toolpath.html", "schemes.html"})
     app.write(std::string("help/") + page, "<html></html>");
   start();
@@ -56,6 +55,12 @@ TEST_F(FrameTest, F1InEachDialogOpensItsOwnPage) {
     trigger(command);
     EXPECT_EQ(seen, page) << command;
   }
+  // A page that is missing is reported, not opened.
+  const std::size_t opened = dialogs.opened.size();
+  gui::openHelpPage("missing.html");
+  EXPECT_EQ(dialogs.opened.size(), opened);
+  ASSERT_FALSE(dialogs.messages.empty());
+  EXPECT_NE(dialogs.messages.back().text.find("missing.html"), std::string::npos);
 }
 
 }  // namespace

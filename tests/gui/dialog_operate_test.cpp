@@ -68,7 +68,7 @@ TEST_F(OperateDialog, ScalesTheSelectedLinesAndKeepsTheEntries) {
   EXPECT_EQ(again.findChild<QComboBox*>("cboValue")->currentText(), "2");  // newest history entry
 }
 
-TEST_F(OperateDialog, ValidationMessagesInOrderLeaveTheDialogOpen) {
+TEST_F(OperateDialog, ValidationMessagesInOrderLeaveTheDialogOpenAndDivisionByZeroIsRefusedAtOnce) {
   FakeDocument doc({"X1"});
   dialog->showFor(doc);
   struct Case {
@@ -88,11 +88,9 @@ TEST_F(OperateDialog, ValidationMessagesInOrderLeaveTheDialogOpen) {
   EXPECT_EQ(doc.reloads, 0);
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_FALSE(settings.has("Operate", "Address"));
-}
 
-TEST_F(OperateDialog, ChoosingDivisionWhileTheValueIsZeroIsRefusedAtOnce) {
-  FakeDocument doc({"X1"});
-  dialog->showFor(doc);
+  // Choosing division while the value is zero is refused at once.
+  dialogs.messages.clear();
   box("cboValue")->setEditText("0.0");
   QComboBox* op = box("cboOperators");
   op->setCurrentIndex(op->findText("/"));

@@ -1,5 +1,5 @@
-// The renumber dialog through its OK button: the methods on the sample program, a selection
-// range, the empty sequence character, the settings of section "Numbering" and the digit
+// The renumber dialog through its OK button: a method over a selection range, the empty
+// sequence character, the settings of section "Numbering" and the digit
 // filters of the number fields.
 #include <gtest/gtest.h>
 
@@ -30,37 +30,20 @@ class RenumberDialog : public test::DialogTest<frmRenumber> {
   void ok() { child<QPushButton>("cmdOK")->click(); }
 };
 
-TEST_F(RenumberDialog, EachMethodOnTheSampleProgram) {
-  const std::vector<std::pair<int, std::string>> cases{
-      {2, "%\nN100O1000\n(SETUP)\nN110G00 X0\nN120 G01 X1"},
-      {0, "%\nN100O1000\nN110(SETUP)\nN120G00 X0\nN130 G01 X1"},
-  };
-  for (const auto& [method, expected] : cases) {
-    FakeDocument doc(kProgram);
-    dialog = std::make_unique<frmRenumber>(settings);
-    dialog->showFor(doc);
-    EXPECT_EQ(child<QLabel>("lblRange")->text().toStdString(), "Range= All Lines");
-    fill("100", "10", method);
-    ok();
-    ASSERT_EQ(doc.reloads, 1) << method;
-    EXPECT_EQ(doc.lastFormat, ReloadFormat::Plain);
-    EXPECT_EQ(doc.text, expected) << "method " << method;
-    EXPECT_TRUE(doc.fileUndoable);
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Renumbering file...", "Press F1 for help."}));
-  }
-  EXPECT_TRUE(dialogs.messages.empty());
-}
-
-TEST_F(RenumberDialog, OneLineSelectionStaysARange) {
-  FakeDocument doc({"G00 X0", "G01 X1", "G01 X2"});
-  doc.selStart = 8;  // inside line 2
-  doc.selLength = 2;
+TEST_F(RenumberDialog, RunsTheChosenMethodOverTheSelectedLines) {
+  FakeDocument doc(kProgram);
+  doc.selectLines(2, 3);
   dialog->showFor(doc);
-  EXPECT_EQ(child<QLabel>("lblRange")->text().toStdString(), "Range= Line 2 to 2");
-  fill("5", "5", 2);
+  EXPECT_EQ(child<QLabel>("lblRange")->text().toStdString(), "Range= Line 2 to 3");
+  fill("100", "10", 0);  // every line, the comment line too
   ok();
-  EXPECT_EQ(doc.text, "G00 X0\nN5G01 X1\nG01 X2");
+  ASSERT_EQ(doc.reloads, 1);
+  EXPECT_EQ(doc.lastFormat, ReloadFormat::Plain);
+  EXPECT_EQ(doc.text, "%\nN100O1000\nN110(SETUP)\nG00 X0\nN5 G01 X1");
+  EXPECT_TRUE(doc.fileUndoable);
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Renumbering file...", "Press F1 for help."}));
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(RenumberDialog, EmptySequenceCharacterIsRefusedAndTheDialogStays) {

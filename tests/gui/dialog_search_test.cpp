@@ -62,12 +62,14 @@ TEST_F(SearchDialog, ReplaceAllActsOnTheSelectedLinesOnlyAndSavesTheHistories) {
   EXPECT_FALSE(child<QPushButton>("cmdUndo")->isEnabled());
 }
 
-TEST_F(SearchDialog, HighlightAllColoursWithoutChangingAndNoMatchLeavesTheDocumentAlone) {
+TEST_F(SearchDialog, AOneLineSelectionIsHighlightedEverywhereAndNoMatchLeavesTheDocumentAlone) {
   FakeDocument doc({"G01 X1 (X1)", "G00 Z5"});
+  doc.selStart = 4;
+  doc.selLength = 2;  // inside one line: the find text, over all lines
   dialog->showFor(doc);
-  child<QCheckBox>("chkSearchMethod_2")->click();  // exclude comments: flag 1
+  EXPECT_EQ(child<QComboBox>("cboFind")->currentText(), "X1");
   EXPECT_EQ(label("lblRange"), "Range= All Lines");
-  enter("X1", "ignored");
+  child<QCheckBox>("chkSearchMethod_2")->click();  // exclude comments: flag 1
   click("cmdHighlight");
   ASSERT_EQ(doc.reloads, 1);
   EXPECT_EQ(test::richBody(doc.reloaded)[0], "G01 \\cf1 X1\\plain\\cf0  (X1)");
@@ -78,17 +80,6 @@ TEST_F(SearchDialog, HighlightAllColoursWithoutChangingAndNoMatchLeavesTheDocume
   click("cmdReplaceAll");
   EXPECT_EQ(doc.reloads, 1);  // nothing found: the document is not touched
   EXPECT_EQ(label("lblStatus"), "0 Replacements made.");
-}
-
-TEST_F(SearchDialog, SelectionInsideOneLineBecomesTheFindTextWithControlCharactersRemoved) {
-  FakeDocument doc({"G01\tX1 Y2", "G00 Z5", "M30"});
-  doc.selStart = 1;
-  doc.selLength = 5;  // "01\tX1"
-  dialog->showFor(doc);
-  EXPECT_EQ(child<QComboBox>("cboFind")->currentText(), "01X1");
-  EXPECT_EQ(label("lblRange"), "Range= All Lines");
-  EXPECT_EQ(dialog->range().lines.first, 1);
-  EXPECT_EQ(dialog->range().lines.last, 3);
 }
 
 TEST_F(SearchDialog, F3AndF4WorkThroughTheRangeThenSayCompleteOnceAndStartAgain) {

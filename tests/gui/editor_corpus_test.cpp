@@ -1,7 +1,6 @@
 // Every program of the shared corpus through the window: opened, coloured by modes (after the
 // junk filter when its line ends need it: mixed line ends, not Linux text), saved as rich text
 // and opened again with the same characters.
-#include <filesystem>
 
 #include "document/document_table.h"
 #include "document/line_convention.h"
@@ -15,9 +14,7 @@ using lathwick::test::FrameTest;
 TEST_F(FrameTest, CorpusProgramsColourSaveAsRichTextAndReopen) {
   const std::string corpus = lathwick::test::corpusDir("gcode");
   if (corpus.empty()) GTEST_SKIP() << "no corpus";
-  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   start();
   int programs = 0;
   for (const auto& entry : std::filesystem::directory_iterator(corpus)) {

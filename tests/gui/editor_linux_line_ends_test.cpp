@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
-#include <filesystem>
 
 #include "document/document_table.h"
 #include "document/line_convention.h"
@@ -27,9 +26,7 @@ namespace {
 class LinuxLineEndsTest : public FrameTest {
  protected:
   void SetUp() override {
-    const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-    if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-    std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+    if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   }
   // How many different styles the first characters of the lines have.
   static std::size_t lineStyleCount(gui::frmEditor* e) {

@@ -9,6 +9,7 @@
 #include "shell/gui/status_panels.h"
 
 using namespace lathwick;
+using lathwick::test::child;
 using lathwick::test::FrameTest;
 
 namespace {
@@ -30,12 +31,15 @@ TEST_F(MotionTest, PassesThatKeepTheMotionSaySoAndOperateCountsTheMovesItChanged
   trigger("mnuOperate");
   QDialog* dialog = frame->findChild<QDialog*>("frmOperate");
   ASSERT_NE(dialog, nullptr);
-  dialog->findChild<QComboBox*>("cboAddress")->setEditText("X");
-  dialog->findChild<QComboBox*>("cboOperators")->setCurrentText("*");
-  dialog->findChild<QComboBox*>("cboValue")->setEditText("2");
-  dialog->findChild<QComboBox*>("cboFormat")->setEditText("##0.0###");
-  dialog->findChild<QPushButton*>("cmdOK")->click();
+  child<QComboBox>(dialog, "cboAddress")->setEditText("X");
+  child<QComboBox>(dialog, "cboOperators")->setCurrentText("*");
+  child<QComboBox>(dialog, "cboValue")->setEditText("2");
+  child<QComboBox>(dialog, "cboFormat")->setEditText("##0.0###");
+  child<QPushButton>(dialog, "cmdOK")->click();
   QApplication::processEvents();
+  // The result comes back as rich text (the changed values marked); the characters read:
+  EXPECT_EQ(e->rtfTextBox().text(), "G21G90\r\nG0X0.0Y0\r\nG1X20.0F100\r\nG2X40.0Y0I5J0\r\n");
+  EXPECT_TRUE(e->FileUndoable());
   EXPECT_EQ(status(), "2 moves changed, the first at line 3: G1X20.0F100");
 }
 

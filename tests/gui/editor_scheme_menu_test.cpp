@@ -1,5 +1,4 @@
 // A document window's scheme menu lists the schemes of the data file.
-#include <filesystem>
 
 #include "format/scheme_data_file.h"
 #include "frame_fixture.h"
@@ -9,9 +8,7 @@ using namespace lathwick;
 using lathwick::test::FrameTest;
 
 TEST_F(FrameTest, SchemeMenuListsTheSchemesWithTheDocumentsOwnChecked) {
-  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   const SchemeList list = loadSchemeList(values.DataFilePath, 1);
   ASSERT_GE(list.entries.size(), 2u);
   values.CurrentScheme = 2;

@@ -14,6 +14,7 @@
 #include "screenshot.h"
 
 using namespace lathwick;
+using lathwick::test::child;
 using lathwick::test::FrameTest;
 using lathwick::test::readBytes;
 
@@ -30,12 +31,6 @@ class EasyTextTest : public FrameTest {
     auto* form = frame->findChild<gui::frmEasyText*>("frmEasyText");
     EXPECT_NE(form, nullptr);
     return form;
-  }
-  template <class T>
-  T* child(gui::frmEasyText* form, const char* name) {
-    T* w = form->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
   }
   void chooseCategory(gui::frmEasyText* form, const QString& name) {
     auto* box = child<QComboBox>(form, "cboFileName");

@@ -17,6 +17,7 @@
 #include "workspace/gui/menu_set.h"
 
 using namespace lathwick;
+using lathwick::test::child;
 using lathwick::test::FrameTest;
 using lathwick::test::readBytes;
 
@@ -35,12 +36,6 @@ class SendToTest : public FrameTest {
     auto* form = frame->findChild<gui::frmSendTo*>("frmSendTo");
     EXPECT_NE(form, nullptr);
     return form;
-  }
-  template <class T>
-  T* child(gui::frmSendTo* form, const char* name) {
-    T* w = form->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
   }
   // Types into a box as the user would, so the box's change reaches the dialog.
   void type(gui::frmSendTo* form, const char* box, const std::string& text) {
@@ -189,23 +184,38 @@ TEST_F(SendToTest, MovesReachTheFileAndTheMenusOfEveryWindowOnlyWithSave) {
   for (gui::frmEditor* e : frame->editors()) EXPECT_EQ(sendMenu(e), (std::vector<std::string>{"C", "B"}));
 }
 
-TEST_F(SendToTest, SendingHandsTheSavedFileToTheProgramAsItsLastWord) {
+TEST_F(SendToTest, SendingHandsTheSavedFileToTheProgramAsItsLastWordButNeverAnEmptyDocument) {
   app.write("SendTo.dat", "1,0\r\n\"Record\",\"" + recorder + "\",\"-p 'COM 1' -q\"\r\n");
   const std::string path = files.write("my part.nc", "G00 X0\r\n");
   start();
   gui::frmEditor* e = openFile(path);
   ASSERT_NE(e, nullptr);
-  e->rtfTextBox().replaceSelection("N10 ");
+  e->rtfTextBox().setSelection(0, e->rtfTextBox().textLength());
+  e->rtfTextBox().replaceSelection("");
+  e->record().changed = false;
+  trigger("mnuShell", 0);
+  QThread::msleep(200);
+  EXPECT_FALSE(std::filesystem::exists(files.file("args.txt")));
+  EXPECT_TRUE(dialogs.messages.empty());
+
+  e->rtfTextBox().replaceSelection("N10 G00 X0\r\n");
   dialogs.answers = {gui::Answer::Cancel};
   trigger("mnuShell", 0);  // the close query comes first; Cancel sends nothing
   EXPECT_EQ(dialogs.messages.size(), 1u);
   QThread::msleep(200);
   EXPECT_FALSE(std::filesystem::exists(files.file("args.txt")));
-
   dialogs.answers = {gui::Answer::Yes};
   trigger("mnuShell", 0);
   EXPECT_EQ(recorded(), "-p\nCOM 1\n-q\n" + path + "\n");
   EXPECT_EQ(readBytes(path), "N10 G00 X0\r\n");  // what was sent is the file as saved
+
+  std::filesystem::remove(recorder);
+  frame->toolButton("Comm")->trigger();  // the first program of the list, which cannot start now
+  ASSERT_EQ(dialogs.messages.size(), 3u);
+  EXPECT_EQ(dialogs.messages[2].text,
+            "File not found\r\nUnable to shell this file.\r\nPlease check path and parameters in send-to list.");
+  EXPECT_EQ(dialogs.messages[2].buttons, gui::Buttons::Ok);
+  EXPECT_EQ(dialogs.messages[2].icon, gui::Icon::Information);
 }
 
 TEST_F(SendToTest, TheScriptsSendToSeesProgramAndFileAndAScriptErrorDoesNotStopTheSending) {
@@ -223,30 +233,6 @@ TEST_F(SendToTest, TheScriptsSendToSeesProgramAndFileAndAScriptErrorDoesNotStopT
   EXPECT_EQ(dialogs.messages[0].caption, "Script Error");
   EXPECT_NE(dialogs.messages[0].text.find("Division by zero"), std::string::npos);
   EXPECT_EQ(e->rtfTextBox().text(), recorder + "|" + path);
-}
-
-TEST_F(SendToTest, AnEmptyDocumentIsNeverSentAndAProgramThatCannotStartIsReported) {
-  app.write("SendTo.dat", "1,0\r\n\"Record\",\"" + recorder + "\",\"\"\r\n");
-  const std::string path = files.write("p.nc", "G00\r\n");
-  start();
-  gui::frmEditor* e = openFile(path);
-  e->rtfTextBox().setSelection(0, e->rtfTextBox().textLength());
-  e->rtfTextBox().replaceSelection("");
-  e->record().changed = false;
-  trigger("mnuShell", 0);
-  QThread::msleep(200);
-  EXPECT_FALSE(std::filesystem::exists(files.file("args.txt")));
-  EXPECT_TRUE(dialogs.messages.empty());
-
-  e->rtfTextBox().replaceSelection("G01");
-  e->record().changed = false;
-  std::filesystem::remove(recorder);
-  frame->toolButton("Comm")->trigger();  // the first program of the list
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text,
-            "File not found\r\nUnable to shell this file.\r\nPlease check path and parameters in send-to list.");
-  EXPECT_EQ(dialogs.messages[0].buttons, gui::Buttons::Ok);
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Information);
 }
 
 TEST_F(SendToTest, TheSendMenuSaysEmptyWhileTheListIsEmptyOrUnreadable) {

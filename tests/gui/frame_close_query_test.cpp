@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kQuestionTail = "] has changed.\r\nDo you want to save the changes?";
 }
 
-TEST_F(FrameTest, CloseQueryCancelKeepsTheWindowAndNoDropsTheChanges) {
+TEST_F(FrameTest, CloseQueryCancelKeepsTheWindowNoDropsTheChangesAndYesSavesUnderTheName) {
   const std::string path = files.write("p.nc", "G00\r\n");
   start();
   gui::frmEditor* e = openFile(path);
@@ -31,17 +31,12 @@ TEST_F(FrameTest, CloseQueryCancelKeepsTheWindowAndNoDropsTheChanges) {
   trigger("mnuClose");
   EXPECT_TRUE(frame->editors().empty());
   EXPECT_EQ(lathwick::test::readBytes(path), "G00\r\n");
-}
 
-TEST_F(FrameTest, CloseQueryYesSavesUnderTheDocumentName) {
-  const std::string path = files.write("p.nc", "G00\r\n");
-  start();
-  gui::frmEditor* e = openFile(path);
-  e->rtfTextBox().replaceSelection("N1 ");
+  openFile(path)->rtfTextBox().replaceSelection("N1 ");
   dialogs.answers = {Answer::Yes};
   trigger("mnuClose");
   EXPECT_TRUE(frame->editors().empty());
-  EXPECT_TRUE(dialogs.requests.size() == 1u);  // only the open dialog: no name was asked
+  EXPECT_EQ(dialogs.requests.size(), 2u);  // only the open dialogs: no name was asked
   EXPECT_EQ(lathwick::test::readBytes(path), "N1 G00\r\n");
 }
 

@@ -56,18 +56,6 @@ TEST_F(FrameTest, EmptyOrMissingFilesOpenNoWindow) {
   EXPECT_TRUE(frame->documents().openIndexes().empty());
 }
 
-TEST_F(FrameTest, RichTextFilesAreReadAsRichText) {
-  const std::string path = files.write("x.rtf", "{\\rtf1\\ansi G01 X5\\par}");
-  start();
-  gui::frmEditor* e = openFile(path);
-  ASSERT_NE(e, nullptr);
-  EXPECT_EQ(e->rtfTextBox().text().substr(0, 6), "G01 X5");
-  // The ".RTF" rule looks at the end of the name only: this one is plain text.
-  gui::frmEditor* plain = openFile(files.write("x.rtf.nc", "{\\rtf1 x}"));
-  ASSERT_NE(plain, nullptr);
-  EXPECT_EQ(plain->rtfTextBox().text(), "{\\rtf1 x}");
-}
-
 TEST_F(FrameTest, SaveAsRichTextWritesRichTextThatLoadsBack) {
   const std::string path = files.write("part.nc", "G00 X1\r\nG01 Y2\r\n");
   start();

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -63,6 +64,14 @@ inline void mouseClick(QWidget* w, Qt::MouseButton button) {
   QApplication::sendEvent(w, &release);
 }
 
+// The child widget or action of `parent` named `name` (a test failure when there is none).
+template <class T>
+T* child(const QObject* parent, const char* name) {
+  T* w = parent->findChild<T*>(QString::fromLatin1(name));
+  EXPECT_NE(w, nullptr) << name;
+  return w;
+}
+
 class FrameTest : public ::testing::Test {
  protected:
   FrameTest() : settings(config.file("Lathwick.ini")) {
@@ -107,6 +116,14 @@ class FrameTest : public ::testing::Test {
   }
 
   std::string caption(gui::frmEditor* e) const { return e->windowTitle().toStdString(); }
+
+  // The shipped schemes in place of the blank data file; false when the build folder has none.
+  bool useBundledSchemes() {
+    const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
+    if (!std::filesystem::exists(bundled)) return false;
+    std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+    return true;
+  }
 
   TempDir config, app, files;
   SettingsStore settings;

@@ -1,15 +1,12 @@
 // The frame's look: toolbar icons from the icon theme and the program's own drawings, names
-// under them as an option, the documents' line-number margin, and F1 in a dialog.
-#include <QShortcut>
+// under them as an option, and the documents' line-number margin.
 #include <QToolBar>
 #include <QToolButton>
 #include <Qsci/qsciscintilla.h>
 
 #include "frame_fixture.h"
-#include "platform/gui/help_key.h"
 #include "workspace/menu_tables.h"
 #include "shell/gui/frame_look.h"
-#include "transform/gui/frm_renumber.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
@@ -67,24 +64,4 @@ TEST_F(FrameTest, LineNumbersShowByDefaultAndTheSettingsMenuSwitchesThemEverywhe
   start();
   EXPECT_FALSE(frame->lineNumbers());
   EXPECT_EQ(marginWidth(openFile(a)), 0);
-}
-
-TEST_F(FrameTest, F1InADialogOpensItsOwnHelpPage) {
-  start();  // the frame points the help at the application folder's help pages
-  EXPECT_EQ(gui::helpFolder(), app.folder() + "help/");
-  app.write("help/renumber.html", "<html></html>");
-  gui::frmRenumber dialog(settings);
-  dialog.show();
-  dialog.activateWindow();
-  QApplication::processEvents();
-  auto* key = dialog.findChild<QShortcut*>("helpKey");
-  ASSERT_NE(key, nullptr);
-  EXPECT_EQ(key->key(), QKeySequence(Qt::Key_F1));
-  emit key->activated();
-  EXPECT_EQ(dialogs.opened, std::vector<std::string>{app.folder() + "help/renumber.html"});
-  // A page that is missing is reported, not opened.
-  gui::openHelpPage("missing.html");
-  EXPECT_EQ(dialogs.opened.size(), 1u);
-  ASSERT_FALSE(dialogs.messages.empty());
-  EXPECT_NE(dialogs.messages.back().text.find("missing.html"), std::string::npos);
 }

@@ -3,7 +3,6 @@
 // the reload after saving MAIN.VBS, Operate run unattended, and Esc stopping a runaway macro.
 #include <QMenu>
 #include <QTimer>
-#include <filesystem>
 
 #include "frame_fixture.h"
 #include "shell/gui/frame_scripts.h"
@@ -43,14 +42,16 @@ struct FrameMacros : FrameTest {
   std::string lastMessage() { return dialogs.messages.empty() ? std::string() : dialogs.messages.back().text; }
 };
 
-TEST_F(FrameMacros, LoadDocRunsAndExecuteListsTheMarkedProcedures) {
+TEST_F(FrameMacros, LoadDocRunsAndExecuteListsAndRunsTheMarkedProcedures) {
   start();
   openFile(files.write("p.nc", "g00 x1\r\n"));
   EXPECT_EQ(text(), "(LOADED)g00 x1\r\n");
   const std::vector<std::string> captions = execute("&Upper");
   EXPECT_EQ(captions, (std::vector<std::string>{"&Upper", "v_test", "&Bad", "&Double", "&Loop"}));
   EXPECT_EQ(text(), "(LOADED)G00 X1\r\n");
-  EXPECT_TRUE(dialogs.messages.empty());
+  execute("&Double");  // Operate runs its dialog unattended
+  EXPECT_EQ(text(), "(LOADED)G00 X2.0\r\n");
+  EXPECT_TRUE(dialogs.messages.empty()) << lastMessage();
 }
 
 TEST_F(FrameMacros, ScriptErrorBoxThenNothingUntilResetCode) {
@@ -89,14 +90,6 @@ TEST_F(FrameMacros, SavingMainVbsReloadsTheMacros) {
   EXPECT_EQ(captions.back(), "&New");
 }
 
-TEST_F(FrameMacros, OperateRunsTheDialogUnattended) {
-  start();
-  openFile(files.write("p.nc", "G01 X1.5 Y2\r\n"));
-  execute("&Double");
-  EXPECT_EQ(text(), "(LOADED)G01 X3.0 Y2\r\n");
-  EXPECT_TRUE(dialogs.messages.empty()) << lastMessage();
-}
-
 // (How fast it stops is measured by bench_macros.)
 TEST_F(FrameMacros, EscStopsARunawayMacro) {
   start();
@@ -121,10 +114,6 @@ TEST_F(FrameMacros, ExecuteFileAddsTheChosenScript) {
   EXPECT_EQ(listed.back(), "&Extra");
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(FrameMacros, KeyRecordingWritesSpecialKeysAfterTheTypedText) {
   start();
   openFile(files.write("p.nc", "G00\r\n"));
@@ -140,10 +129,6 @@ TEST_F(FrameMacros, KeyRecordingWritesSpecialKeysAfterTheTypedText) {
   lathwick::test::keyClick(target, Qt::Key_End, Qt::ShiftModifier | Qt::ControlModifier);
   EXPECT_EQ(lathwick::test::readBytes(app.file("Script/Keyboard.vbs")), "Key \"X1\"\r\nKey \"^+{END}\"\r\n");
 }
-
-}  // namespace
-
-namespace {
 
 TEST_F(FrameMacros, SelTextLeavesTheCaretAfterItAndTheWindowCatchesUpWhenTheMacroEnds) {
   app.write("Script/main.vbs",
@@ -163,10 +148,6 @@ TEST_F(FrameMacros, SelTextLeavesTheCaretAfterItAndTheWindowCatchesUpWhenTheMacr
   EXPECT_TRUE(frame->menuAction("mnuCut")->isEnabled());
 }
 
-}  // namespace
-
-namespace {
-
 // The members the other tests do not reach, each run from the Macro menu over a real window.
 TEST_F(FrameMacros, TheRestOfTheMembersActOnTheWindowAndItsDocument) {
   app.write("Script/main.vbs",
@@ -177,9 +158,7 @@ TEST_F(FrameMacros, TheRestOfTheMembersActOnTheWindowAndItsDocument) {
             "Sub V_Tools()\r\n  ToolButtonsVisible = False\r\nEnd Sub\r\n"
             "Sub V_Open()\r\n  DlgOpen\r\nEnd Sub\r\n"
             "Sub V_Colour()\r\n  Colorize 1\r\nEnd Sub\r\n");
-  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   start();
   gui::frmEditor* e = openFile(files.write("p.nc", "G00 X1 Y2\r\nG01 Z-1\r\nM30\r\n"));
   ASSERT_NE(e, nullptr);

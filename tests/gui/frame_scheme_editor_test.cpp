@@ -1,7 +1,6 @@
 // Edit Schemes from the frame: the open windows' Scheme menus follow what the editor does to
 // the list, and the active document takes the colours of the scheme the editor closes on.
 #include <QTimer>
-#include <filesystem>
 
 #include "format/gui/frm_setup.h"
 #include "format/scheme_data_file.h"
@@ -12,9 +11,7 @@ using namespace lathwick;
 using lathwick::test::FrameTest;
 
 TEST_F(FrameTest, SchemeEditorFromTheMenuUpdatesSchemeMenusAndTheActiveDocument) {
-  const std::string bundled = std::string(LATHWICK_APP_DIR) + "/Lathwick.dat";
-  if (!std::filesystem::exists(bundled)) GTEST_SKIP() << "no bundled scheme data file in the build folder";
-  std::filesystem::copy_file(bundled, values.DataFilePath, std::filesystem::copy_options::overwrite_existing);
+  if (!useBundledSchemes()) GTEST_SKIP() << "no bundled scheme data file in the build folder";
   start();
   trigger("mnuNew");
   trigger("mnuNew");

@@ -1,4 +1,4 @@
-// The Window menu lists the documents and arranges them.
+// The Window menu lists the documents, activates the chosen one and arranges them.
 #include <QMenu>
 
 #include "frame_fixture.h"
@@ -7,7 +7,7 @@
 using namespace lathwick;
 using lathwick::test::FrameTest;
 
-TEST_F(FrameTest, WindowMenuListsTheDocumentsAndActivatesTheChosenOne) {
+TEST_F(FrameTest, WindowMenuListsActivatesAndArrangesTheDocuments) {
   start();
   frame->resize(900, 700);
   trigger("mnuNew");
@@ -31,14 +31,11 @@ TEST_F(FrameTest, WindowMenuListsTheDocumentsAndActivatesTheChosenOne) {
   int count = 0;
   for (QAction* a : menu->actions()) count += a->property("windowEntry").toBool() && !a->isSeparator();
   EXPECT_EQ(count, 3);
-}
 
-TEST_F(FrameTest, TileAndCascadeArrangeEveryWindow) {
-  start();
-  frame->resize(900, 700);
-  trigger("mnuNew");
-  trigger("mnuNew");
+  // Tile and Cascade arrange every window.
+  trigger("mnuClose");
   const auto windows = frame->mdiArea()->subWindowList();
+  ASSERT_EQ(windows.size(), 2);
   const QRect area = frame->mdiArea()->viewport()->rect();
   trigger("mnuTileVert");  // side by side
   EXPECT_EQ(windows[0]->geometry(), QRect(0, 0, area.width() / 2, area.height()));

@@ -26,10 +26,11 @@ TEST(StringCaps, StringsAndArraysPastTheirCapsAreCatchableErrors) {
                         "s = String(268435457, \"x\")\nn1 = Err.Number : d1 = Err.Description : Err.Clear\n"
                         "s = Space(268435457)\nn2 = Err.Number : Err.Clear\n"
                         "ReDim a(16777216)\nn3 = Err.Number : d3 = Err.Description : Err.Clear\n"
-                        "Function R()\nR = n1 & \" \" & d1 & \"|\" & n2 & \"|\" & n3 & \" \" & d3\nEnd Function"));
+                        "ReDim b(65535, 65535, 65535, 65535)\nn4 = Err.Number : Err.Clear\n"
+                        "Function R()\nR = n1 & \" \" & d1 & \"|\" & n2 & \"|\" & n3 & \" \" & d3 & \"|\" & n4\nEnd Function"));
   const auto r = e.run("R");
   ASSERT_TRUE(r);
-  EXPECT_EQ(r->strValue(), "14 Out of string space|14|7 Out of memory");
+  EXPECT_EQ(r->strValue(), "14 Out of string space|14|7 Out of memory|7");
 }
 
 TEST(StringCaps, ThePollFiresOnStringGrowthSoTheHostStopsADoublingLoop) {
