@@ -64,7 +64,7 @@ int cmdOperate(const Args& args) {
   req.excludeComments = p.flag("--exclude-comments");
   req.range = rangeFromOptions(p);
   req.displayLineCount = 0;
-  const transform::RichTextFrame frame = frameFromOptions(p);
+  const PassFrame frame = frameFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
     const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
     return finishPass(transform::runOperate(input.path(), job.out, req, frame, silentMonitor()), true, job);

@@ -75,16 +75,16 @@ OperateValidation validateOperate(const OperateEntries& entries) {
   return v;
 }
 
-OperateLine::OperateLine(const OperateRequest& request, const RichTextFrame& frame)
+OperateLine::OperateLine(const OperateRequest& request, const PassFrame& frame)
     : addresses_(request.addresses),
       op_(request.op),
       operand_(request.operand),
       picture_(request.format),
       excludeComments_(request.excludeComments),
-      open_(frame.commentOpen),
-      close_(frame.commentClose),
-      markStart_(frame.markStart),
-      markEnd_(frame.markEnd) {}
+      open_(frame.comment.openText()),
+      close_(frame.comment.closeText()),
+      markStart_(frame.highlightStart),
+      markEnd_(frame.highlightEnd) {}
 
 double OperateLine::compute(double value) const {
   switch (op_) {
@@ -172,20 +172,14 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
 }
 
 PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,
-                      const RichTextFrame& frame, PassMonitor& monitor) {
+                      const PassFrame& frame, PassMonitor& monitor) {
   RichPassSettings settings;
   settings.statusText = kOperatingStatus;
   settings.countPhrase = kOperationsPhrase;
   settings.errorEnding = kOperateErrorEnding;
   settings.displayLineCount = request.displayLineCount;
-  if (!NumericPicture::isValid(request.format)) {
-    PassResult r;
-    r.outcome = PassOutcome::Failed;
-    r.errorNumber = 5;
-    r.errorDescription = "Invalid procedure call or argument";
-    r.message = passErrorMessage(r.errorNumber, r.errorDescription, settings.errorEnding);
-    return r;
-  }
+  if (!NumericPicture::isValid(request.format))
+    return failedResult(5, "Invalid procedure call or argument", settings.errorEnding);
   OperateLine transform(request, frame);
   return runRichPass(inPath, outPath, frame, request.range, transform, settings, monitor);
 }

@@ -12,6 +12,8 @@
 #include "document/print_pages.h"
 #include "document/rtf_reader.h"
 #include "platform/gui/dialogs.h"
+#include "platform/pass_result.h"
+#include "platform/settings_table.h"
 #include "document/gui/rich_text_box.h"
 
 namespace lathwick::gui {
@@ -104,7 +106,7 @@ void PrintPlain(frmEditor& window, const PrintContext& context) {
   };
   if (!listingPrinter().print(layout, QString::fromLocal8Bit(fileName.c_str())))
     dialogs().message(kPrintProblemMessage, "", Buttons::Ok, Icon::None);
-  context.statusText(kReady);
+  context.statusText(kReadyStatus);
 }
 
 void PrintFile(frmEditor& window, const PrintContext& context) {
@@ -124,7 +126,7 @@ void PrintFile(frmEditor& window, const PrintContext& context) {
     if (!listingPrinter().print(layout, QString::fromLocal8Bit(window.filename().c_str())))
       dialogs().message(kRichPrintError, "", Buttons::Ok, Icon::None);
   }
-  context.statusText(kReady);
+  context.statusText(kReadyStatus);
 }
 
 }  // namespace lathwick::gui

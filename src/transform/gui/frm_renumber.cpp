@@ -168,15 +168,14 @@ void frmRenumber::onOK() {
     dialogs().message(kRenumberFailed, kAppTitle, Buttons::Ok, Icon::Exclamation);
     return;
   }
-  const auto result = runDocumentPass(target, nullptr, this,
-                                      [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-                                        return runRenumber(in, out, request, monitor);
-                                      });
-  if (result && result->outcome == PassOutcome::Completed) {
-    target.reloadDocument(target.outputWorkFile(), ReloadFormat::Plain);
-    target.setFileUndoable(true);
-    notifyPassDone(target, PassKind::KeepsMotion);
-  }
+  PassRun run;
+  run.parent = this;
+  run.output = ReloadFormat::Plain;
+  run.notify = PassKind::KeepsMotion;
+  const auto result =
+      runDocumentPass(target, run, [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return runRenumber(in, out, request, monitor);
+      });
   if (result && (result->outcome == PassOutcome::Completed || result->outcome == PassOutcome::Failed)) accept();
 }
 

@@ -258,7 +258,10 @@ void frmSearch::runPass(bool highlight) {
     request.flags = flags_;
     request.range = range_.lines;
     request.displayLineCount = target.lineCount();
-    const RichTextFrame frame = richTextFrameOf(target.passFrame());
+    const PassFrame frame = target.passFrame();
+    PassRun run;
+    run.bar = progReplace_;
+    run.parent = this;
     std::optional<PassResult> result;
     {
       const ButtonsHeld held(*this, cmdCancel_);
