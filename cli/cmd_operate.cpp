@@ -18,7 +18,7 @@ namespace {
 // What the dialog shows when it opens on a fresh settings file.
 transform::OperateEntries dialogDefaults() {
   const transform::OperateRequest fresh;
-  return {settingDefault(kOperate, "Address"), settingDefault(kOperate, "Operators"),
+  return {settingDefault(Setting::OperateAddress), settingDefault(Setting::OperateOperators),
           singleText(fresh.operand), fresh.format};
 }
 }  // namespace

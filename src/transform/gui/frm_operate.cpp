@@ -111,9 +111,9 @@ frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(paren
 
 void frmOperate::loadFields() {
   // The history's default is the table's; a remembered address then takes the edit line.
-  loadComboHistory(*cboAddress_, settings_, OperateSettings{}.address);
+  loadComboHistory(*cboAddress_, settings_, settingDefault(Setting::OperateAddress));
   const OperateSettings stored = readOperateSettings(settings_);
-  if (settings_.has(kOperate, "Address") && !stored.address.empty())
+  if (isSettingStored(settings_, Setting::OperateAddress) && !stored.address.empty())
     cboAddress_->setEditText(fromBytes(stored.address));
   const int op = cboOperators_->findText(fromBytes(stored.op));
   cboOperators_->setCurrentIndex(op >= 0 ? op : 0);
