@@ -66,6 +66,8 @@ class OperateLine : public RichLineTransform {
 
  private:
   double compute(double value) const;
+  // Changes every value of one address letter in the line; the number of values changed.
+  long operateOn(char address, long open, long close, std::string& line, std::vector<Stretch>& marks);
   std::string addresses_;
   char op_;
   double operand_;
