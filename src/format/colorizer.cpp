@@ -49,24 +49,6 @@ class ProgressPlan {
   PassMonitor& monitor_;
 };
 
-}  // namespace
-
-std::string colorizeErrorMessage(int number, const std::string& description) {
-  return "The error " + std::to_string(number) + " " + description +
-         " occurred during the creation of the formatted output file.";
-}
-
-std::string ColorizeResult::message() const {
-  switch (outcome) {
-    case ColorizeOutcome::Refused: return kJunkFilterMessage;
-    case ColorizeOutcome::Cancelled: return kCancelMessage;
-    case ColorizeOutcome::Failed: return colorizeErrorMessage(errorNumber, errorDescription);
-    default: return {};
-  }
-}
-
-namespace {
-
 // Writes the output file: the header, each input line as rich text, the trailer. False when the
 // user cancelled; the output file is then left as it was. Throws AppError when a file fails.
 bool writeColorized(const SchemeRecord& scheme, const PassFrame& frame, ColorizeView view, const std::string& inputPath,
@@ -101,9 +83,10 @@ bool writeColorized(const SchemeRecord& scheme, const PassFrame& frame, Colorize
 
 }  // namespace
 
-ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const std::string& inputPath,
-                            const std::string& outputPath, PassMonitor& monitor, const std::string* commentOverride) {
-  ColorizeResult result;
+PassResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const std::string& inputPath,
+                        const std::string& outputPath, PassMonitor& monitor, const std::string* commentOverride) {
+  PassResult result;
+  result.outcome = PassOutcome::NoInput;
   if (inputPath.empty() || !isRegularFile(inputPath)) return result;
 
   long lineCount = 0;
@@ -113,25 +96,25 @@ ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const
     return result;  // vanished or unreadable: as if it were not there
   }
   if (lineCount < 0) {
-    result.outcome = ColorizeOutcome::Refused;
+    result.outcome = PassOutcome::Refused;
+    result.message = kJunkFilterMessage;
     return result;
   }
 
   const PassFrame frame = makePassFrame(scheme, commentOverride);
-  result.backColour = frame.backColour;
   ProgressPlan progress(lineCount, monitor);
   monitor.clearCancel();
   try {
-    if (writeColorized(scheme, frame, view, inputPath, outputPath, progress, result.linesWritten)) {
-      result.outcome = ColorizeOutcome::Done;
-    } else {
+    if (!writeColorized(scheme, frame, view, inputPath, outputPath, progress, result.count)) {
       monitor.clearCancel();
-      result.outcome = ColorizeOutcome::Cancelled;
+      progress.end();
+      monitor.statusText(kReadyStatus);
+      return cancelledResult(result.count);  // the writer was dropped: the output file is left as it was
     }
+    result.outcome = PassOutcome::Completed;
+    result.reload = true;
   } catch (const AppError& e) {
-    result.outcome = ColorizeOutcome::Failed;
-    result.errorNumber = e.number();
-    result.errorDescription = e.description();
+    result = failedResult(e.number(), e.description(), kColorizeErrorEnding);
   }
   progress.end();
   monitor.statusText(kReadyStatus);
