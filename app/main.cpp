@@ -10,6 +10,7 @@
 #include "platform/file_system.h"
 #include "shell/gui/frame_scripts.h"
 #include "platform/gui/command_guard.h"
+#include "platform/memory_reuse.h"
 #include "shell/gui/frame_look.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/qt_startup_host.h"
@@ -17,6 +18,7 @@
 #include "shell/gui/recovery_controller.h"
 
 int main(int argc, char** argv) {
+  lathwick::keepLargeBuffersForReuse();
   lathwick::gui::GuardedApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lathwick"));
   QApplication::setApplicationVersion(QStringLiteral(LATHWICK_VERSION_TEXT));

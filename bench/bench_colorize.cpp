@@ -30,14 +30,14 @@ Files& files() {
 void colorize(benchmark::State& state, lathwick::ColorizeView view) {
   const lathwick::SchemeRecord scheme = lathwick::bundledSchemes()[0];
   Files& f = files();
-  lathwick::ColorizeResult r;
+  lathwick::PassResult r;
   for (auto _ : state) {
     r = lathwick::colorizeFile(scheme, view, f.input, f.output, lathwick::silentMonitor());
-    if (r.outcome != lathwick::ColorizeOutcome::Done) state.SkipWithError("colorize failed");
+    if (r.outcome != lathwick::PassOutcome::Completed) state.SkipWithError("colorize failed");
   }
   const auto in = std::filesystem::file_size(f.input), out = std::filesystem::file_size(f.output);
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * in));
-  state.counters["lines"] = static_cast<double>(r.linesWritten);
+  state.counters["lines"] = static_cast<double>(r.count);
   state.counters["in_MB"] = static_cast<double>(in) / 1e6;
   state.counters["out_MB"] = static_cast<double>(out) / 1e6;
   state.counters["peak_RSS_MB"] = lathwick::bench::peakResidentMegabytes();

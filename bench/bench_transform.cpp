@@ -40,19 +40,11 @@ void makeProgram() {
   made = true;
 }
 
-RichTextFrame frame() {
+PassFrame frame() {
   SchemeRecord scheme = bundledSchemes().front();
   buildSchemeFragments(scheme);
-  const PassFrame pf = makePassFrame(scheme);
-  RichTextFrame f;
-  f.header = pf.header;
-  f.trailer = pf.trailer;
-  f.indentTwips = pf.indentTwips;
-  f.markStart = pf.highlightStart;
-  f.markEnd = pf.highlightEnd;
-  f.commentOpen = "(";
-  f.commentClose = ")";
-  return f;
+  const std::string comment = "(";
+  return makePassFrame(scheme, &comment);
 }
 
 // Removes the previous result outside the timing, so no run pays for deleting the last one.
@@ -100,7 +92,7 @@ void renumberAwk(benchmark::State& state) {
 
 // ---- operate: X, Y and Z times 2, "##0.0###", marked ----
 void operateLathwick(benchmark::State& state) {
-  const RichTextFrame f = frame();
+  const PassFrame f = frame();
   OperateRequest req;
   req.addresses = "XYZ";
   req.op = '*';
@@ -115,7 +107,7 @@ void operateAwk(benchmark::State& state) {
 
 // ---- replace all: every "X" becomes "U", marked (one per line) ----
 void replaceLathwick(benchmark::State& state) {
-  const RichTextFrame f = frame();
+  const PassFrame f = frame();
   SearchRequest req;
   req.findText = "X";
   req.replaceText = "U";

@@ -70,7 +70,7 @@ void renumberKeepingReferences(benchmark::State& state, bool keep) {
   const auto req = renumbering(keep);
   for (auto _ : state) {
     const auto r = transform::runRenumber(programA(), folder().file("out.nc"), req, silentMonitor());
-    if (r.outcome != transform::PassOutcome::Completed) state.SkipWithError(r.message.c_str());
+    if (r.outcome != PassOutcome::Completed) state.SkipWithError(r.message.c_str());
   }
 }
 

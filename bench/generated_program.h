@@ -1,7 +1,7 @@
 // The programs the benchmarks run on, generated rather than shipped: a million lines as a CAM
 // post would write them, in one of a few styles, so every benchmark of a file pass, a load or a
 // view reads the same kind of input from one place. Also the scratch folder the files live in
-// and the peak-memory figure the benchmarks report.
+// and the peak-memory figures the benchmarks report.
 #pragma once
 
 #include <sys/resource.h>
@@ -157,11 +157,29 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-// The peak resident memory of the process so far, in megabytes.
+// The peak resident memory of the process since it started or since the last
+// resetPeakResident(), in megabytes (VmHWM; getrusage's figure where /proc does not give it).
 inline double peakResidentMegabytes() {
+  if (std::FILE* status = std::fopen("/proc/self/status", "r")) {
+    char line[256];
+    long kilobytes = -1;
+    while (std::fgets(line, sizeof line, status))
+      if (std::sscanf(line, "VmHWM: %ld kB", &kilobytes) == 1) break;
+    std::fclose(status);
+    if (kilobytes >= 0) return static_cast<double>(kilobytes) / 1024.0;
+  }
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
   return static_cast<double>(usage.ru_maxrss) / 1024.0;
+}
+
+// Starts a new peak at the memory resident now, so that the next peakResidentMegabytes() is the
+// peak of one step. False where the system cannot (the peak then covers the whole run).
+inline bool resetPeakResident() {
+  std::FILE* refs = std::fopen("/proc/self/clear_refs", "w");
+  if (!refs) return false;
+  const bool done = std::fputs("5", refs) >= 0;
+  return std::fclose(refs) == 0 && done;
 }
 
 }  // namespace lathwick::bench

@@ -30,15 +30,15 @@ int cmdColorize(const Args& args) {
   const auto comment = p.value("--comment");
   return forEachFile(p, [&](const FileJob& job) {
     const PassInput input(job.in);
-    const ColorizeResult r =
+    const PassResult r =
         colorizeFile(scheme, view, input.path(), job.out, silentMonitor(), comment ? &*comment : nullptr);
     switch (r.outcome) {
-      case ColorizeOutcome::Done: return kExitOk;
-      case ColorizeOutcome::NoInput:
+      case PassOutcome::Completed: return kExitOk;
+      case PassOutcome::NoInput:
         std::fprintf(stderr, "%s: %s\n", job.name.c_str(), makeError(err::kFileNotFound).what());
         return kExitRefused;
       default:
-        std::fprintf(stderr, "%s%s\n", job.countPrefix.c_str(), r.message().c_str());
+        std::fprintf(stderr, "%s%s\n", job.countPrefix.c_str(), r.message.c_str());
         return kExitRefused;
     }
   });

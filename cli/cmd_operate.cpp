@@ -18,7 +18,7 @@ namespace {
 // What the dialog shows when it opens on a fresh settings file.
 transform::OperateEntries dialogDefaults() {
   const transform::OperateRequest fresh;
-  return {settingDefault(kOperate, "Address"), settingDefault(kOperate, "Operators"),
+  return {settingDefault(Setting::OperateAddress), settingDefault(Setting::OperateOperators),
           singleText(fresh.operand), fresh.format};
 }
 }  // namespace
@@ -64,7 +64,7 @@ int cmdOperate(const Args& args) {
   req.excludeComments = p.flag("--exclude-comments");
   req.range = rangeFromOptions(p);
   req.displayLineCount = 0;
-  const transform::RichTextFrame frame = frameFromOptions(p);
+  const PassFrame frame = frameFromOptions(p);
   return forEachFile(p, [&](const FileJob& job) {
     const PassInput input(job.in);  // rich OUTs end their lines with CR LF whatever IN had
     return finishPass(transform::runOperate(input.path(), job.out, req, frame, silentMonitor()), true, job);

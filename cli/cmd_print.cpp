@@ -54,10 +54,10 @@ RtfDocument richDocument(const ParsedArgs& p, const std::string& in, const std::
   if (view != "modes" && view != "codes") throw UsageError("option --view needs modes or codes, not '" + view + "'");
   const std::string coloured = out + ".colour.rtf";
   const auto comment = p.value("--comment");
-  const ColorizeResult r = colorizeFile(scheme, view == "modes" ? ColorizeView::Modes : ColorizeView::Codes, in,
-                                        coloured, silentMonitor(), comment ? &*comment : nullptr);
-  if (r.outcome == ColorizeOutcome::NoInput) throw makeError(err::kFileNotFound);
-  if (r.outcome != ColorizeOutcome::Done) throw AppError(0, r.message());
+  const PassResult r = colorizeFile(scheme, view == "modes" ? ColorizeView::Modes : ColorizeView::Codes, in,
+                                    coloured, silentMonitor(), comment ? &*comment : nullptr);
+  if (r.outcome == PassOutcome::NoInput) throw makeError(err::kFileNotFound);
+  if (r.outcome != PassOutcome::Completed) throw AppError(0, r.message);
   struct Remover {
     std::string path;
     ~Remover() { removeFile(path); }

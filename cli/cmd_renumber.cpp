@@ -15,12 +15,12 @@ namespace lathwick::cli {
 
 namespace {
 // The option's value, or the dialog's default from the settings table.
-std::string valueOrDialogDefault(const ParsedArgs& p, const char* option, const char* key) {
-  return p.valueOr(option, settingDefault(kNumbering, key));
+std::string valueOrDialogDefault(const ParsedArgs& p, const char* option, Setting setting) {
+  return p.valueOr(option, settingDefault(setting));
 }
 
-std::int32_t wholeNumber(const ParsedArgs& p, const char* option, const char* key) {
-  const std::string text = valueOrDialogDefault(p, option, key);
+std::int32_t wholeNumber(const ParsedArgs& p, const char* option, Setting setting) {
+  const std::string text = valueOrDialogDefault(p, option, setting);
   try {
     return toInt32(text);  // rounded as the dialog rounds its entries
   } catch (const AppError&) {
@@ -39,14 +39,14 @@ int cmdRenumber(const Args& args) {
                                                          {"--keep-references", false, false}}),
                                         "IN and OUT");
   transform::RenumberRequest req;
-  req.start = wholeNumber(p, "--start", "Start");
-  req.increment = wholeNumber(p, "--increment", "Increment");
-  const std::string method = valueOrDialogDefault(p, "--method", "Method");
+  req.start = wholeNumber(p, "--start", Setting::NumberingStart);
+  req.increment = wholeNumber(p, "--increment", Setting::NumberingIncrement);
+  const std::string method = valueOrDialogDefault(p, "--method", Setting::NumberingMethod);
   if (method.size() != 1 || method[0] < '0' || method[0] > '2')
     throw UsageError("option --method needs 0, 1 or 2, not '" + method + "'");
   req.method = static_cast<transform::RenumberMethod>(method[0] - '0');
-  req.sequenceText = valueOrDialogDefault(p, "--char", "Character");
-  req.skipCharacters = valueOrDialogDefault(p, "--skip", "SkipLines");
+  req.sequenceText = valueOrDialogDefault(p, "--char", Setting::NumberingCharacter);
+  req.skipCharacters = valueOrDialogDefault(p, "--skip", Setting::NumberingSkipLines);
   req.range = rangeFromOptions(p);
   req.updateReferences = p.flag("--keep-references");
   if (!trimBlanks(req.sequenceText).empty()) req.commentStart = commentStartFromOptions(p);

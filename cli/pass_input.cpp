@@ -35,12 +35,12 @@ PassInput::~PassInput() {
   if (!twin_.empty()) removeFile(twin_);
 }
 
-transform::PassResult PassInput::plainOut(transform::PassResult result, const std::string& out) const {
-  if (result.outcome != transform::PassOutcome::Completed || ends_ == LineEnds::CrLf) return result;
+PassResult PassInput::plainOut(PassResult result, const std::string& out) const {
+  if (result.outcome != PassOutcome::Completed || ends_ == LineEnds::CrLf) return result;
   try {
     rewriteWithLineEnds(out, ends_);
   } catch (const AppError& e) {
-    result.outcome = transform::PassOutcome::Failed;
+    result.outcome = PassOutcome::Failed;
     result.errorNumber = e.number();
     result.errorDescription = e.description();
     result.message = e.description();

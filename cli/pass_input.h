@@ -5,7 +5,7 @@
 #include <string>
 
 #include "document/line_convention.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 
 namespace lathwick::cli {
 
@@ -22,7 +22,7 @@ class PassInput {
 
   // After a completed plain pass, OUT takes the IN's line ends. A failure to rewrite it turns
   // the result into a failed one.
-  transform::PassResult plainOut(transform::PassResult result, const std::string& out) const;
+  PassResult plainOut(PassResult result, const std::string& out) const;
 
  private:
   std::string path_;

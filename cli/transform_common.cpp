@@ -5,13 +5,9 @@
 #include "format/pass_frame.h"
 #include "format/scheme_data_file.h"
 #include "platform/bytes.h"
-#include "transform/scheme_frame.h"
 #include "transform/search_match.h"
 
 namespace lathwick::cli {
-
-using transform::PassOutcome;
-using transform::PassResult;
 
 std::vector<OptionSpec> withRangeOption(std::vector<OptionSpec> specs) {
   specs.push_back({"--lines", true, false});
@@ -27,10 +23,10 @@ SchemeRecord schemeFromOptions(const ParsedArgs& args) {
 }
 }  // namespace
 
-transform::RichTextFrame frameFromOptions(const ParsedArgs& args) {
+PassFrame frameFromOptions(const ParsedArgs& args) {
   const SchemeRecord record = schemeFromOptions(args);
   const std::optional<std::string> comment = args.value("--comment");
-  return transform::richTextFrameOf(makePassFrame(record, comment ? &*comment : nullptr));
+  return makePassFrame(record, comment ? &*comment : nullptr);
 }
 
 std::string commentStartFromOptions(const ParsedArgs& args) {

@@ -8,8 +8,8 @@
 #include "file_args.h"
 #include "options.h"
 #include "transform/operation_range.h"
-#include "transform/pass_result.h"
-#include "transform/rich_text_frame.h"
+#include "platform/pass_result.h"
+#include "format/pass_frame.h"
 #include "transform/search_pass.h"
 
 namespace lathwick::cli {
@@ -21,7 +21,7 @@ std::vector<OptionSpec> withRangeOption(std::vector<OptionSpec> specs);
 
 // Header, trailer, indent, markers and comment delimiters of --scheme in --data, with the
 // comment text of --comment when given.
-transform::RichTextFrame frameFromOptions(const ParsedArgs& args);
+PassFrame frameFromOptions(const ParsedArgs& args);
 
 // The comment-start text: --comment when given (no data file is read then), otherwise the
 // scheme's comment text (set 0, style 10), trimmed.
@@ -35,9 +35,9 @@ std::vector<OptionSpec> searchOptionSpecs(bool withReplace);
 transform::SearchRequest searchRequestFrom(const ParsedArgs& args);
 
 // Prints the count line (when `printCount`) or the message, and gives the exit status.
-int finishPass(const transform::PassResult& result, bool printCount, const std::string& inPath);
+int finishPass(const PassResult& result, bool printCount, const std::string& inPath);
 // The same for one job of forEachFile: the count line goes where the job says, and with
 // --in-place the count and the message start with the file's name.
-int finishPass(const transform::PassResult& result, bool printCount, const FileJob& job);
+int finishPass(const PassResult& result, bool printCount, const FileJob& job);
 
 }  // namespace lathwick::cli

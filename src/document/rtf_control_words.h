@@ -1,6 +1,7 @@
 #pragma once
 // The control words the rich-text reader acts on, found by name in a small hash table (the
 // colorizer's output carries a dozen of them per line, so the lookup must be cheap).
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -20,6 +21,7 @@ enum class Word : unsigned char {
   Pard, Par, Line, Sect, Tab, Cell, Row, NestedTableProperties, LeftIndent, Unicode, UnicodeSkip, Bin,
   EmDash, EnDash, Bullet, LQuote, RQuote, LDblQuote, RDblQuote, Space,
 };
+inline constexpr std::size_t kWordCount = static_cast<std::size_t>(Word::Space) + 1;
 
 Word lookupWord(std::string_view name);
 // The same for a name of at most eight letters packed little-endian into a number (the first

@@ -1,11 +1,14 @@
 #pragma once
 // What the rich-text reader makes of a document: its text in the editor's one-byte form
 // (Windows-1252, paragraphs separated by CR LF), the character formats of its runs and the
-// left indent of its paragraphs.
+// left indent of its paragraphs. The reader can also hand the text on in pieces as it reads
+// (RtfTextSink), so that a large file never has to be held whole.
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lathwick {
@@ -18,6 +21,7 @@ struct RtfFont {
   std::string name;
   int codePage = 0;  // 0: the document's code page
   bool fixedPitch = false;  // the family keyword \fmodern: a font whose characters line up in columns
+  bool operator==(const RtfFont&) const = default;
 };
 
 struct RtfCharFormat {
@@ -34,15 +38,13 @@ struct RtfCharFormat {
 // A run starts at `start` and lasts until the next run starts (or the text ends).
 struct RtfRun {
   std::size_t start;
-  std::uint32_t format;  // index into RtfDocument::formats
+  std::uint32_t format;  // index into RtfFormatTable::formats
 };
 
-struct RtfDocument {
-  std::string text;
+// The fonts and the distinct character formats of a document, as far as the reader has come.
+struct RtfFormatTable {
   std::map<int, RtfFont> fonts;        // by font number
   std::vector<RtfCharFormat> formats;  // each distinct format once
-  std::vector<RtfRun> runs;            // in text order, the first at 0 when there is text
-  int indentTwips = 0;                 // \li of the first paragraph that holds text
 
   // The name of a font number, or "" when the font table does not have it.
   std::string fontName(int number) const {
@@ -53,6 +55,24 @@ struct RtfDocument {
     const auto it = fonts.find(number);
     return it != fonts.end() && it->second.fixedPitch;
   }
+};
+
+struct RtfDocument : RtfFormatTable {
+  std::string text;
+  std::vector<RtfRun> runs;  // in text order, the first at 0 when there is text
+  int indentTwips = 0;       // \li of the first paragraph that holds text
+};
+
+// Where a streamed read puts the document. The text arrives in order, in pieces; a piece's runs
+// start relative to the piece (the first at 0), and a format may go on from one piece into the
+// next. Every format a run names is in `table` by the time the piece arrives.
+class RtfTextSink {
+ public:
+  virtual ~RtfTextSink() = default;
+  // The indent of the first paragraph that holds text, before that text arrives (not called
+  // for a document without text).
+  virtual void indent(int twips) = 0;
+  virtual void styledText(std::string_view text, std::span<const RtfRun> runs, const RtfFormatTable& table) = 0;
 };
 
 }  // namespace lathwick

@@ -44,7 +44,7 @@ void RtfReaderState::commitFont() {
     name = first == std::string::npos ? std::string() : name.substr(first);
     while (!name.empty() && name.back() == ' ') name.pop_back();
     const int cp = fontCodePage_ != 0 ? fontCodePage_ : fontCharsetPage_;
-    if (!name.empty() || doc_.fonts.count(fontNumber_) == 0) doc_.fonts[fontNumber_] = RtfFont{name, cp, fontFixedPitch_};
+    if (!name.empty() || table_.fonts.count(fontNumber_) == 0) table_.fonts[fontNumber_] = RtfFont{name, cp, fontFixedPitch_};
     if (fontNumber_ >= 0 && fontNumber_ < 4096) {
       if (fontPages_.size() <= static_cast<std::size_t>(fontNumber_)) fontPages_.resize(fontNumber_ + 1, 0);
       fontPages_[fontNumber_] = cp;

@@ -4,7 +4,7 @@
 
 namespace lathwick {
 
-StyleFormat styleFormatOf(const RtfDocument& doc, const RtfCharFormat& format, const StyleTable& table) {
+StyleFormat styleFormatOf(const RtfFormatTable& doc, const RtfCharFormat& format, const StyleTable& table) {
   // Text that says nothing about its format is in the default style.
   if (format == RtfCharFormat{}) return table.defaultFormat();
   StyleFormat s;

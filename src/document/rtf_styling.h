@@ -24,7 +24,7 @@ struct DocumentStyling {
 
 // The style a run format takes in the table: a font the document does not name is the table's
 // default font, and text with no format at all (plain text, for one) is in the default style.
-StyleFormat styleFormatOf(const RtfDocument& doc, const RtfCharFormat& format, const StyleTable& table);
+StyleFormat styleFormatOf(const RtfFormatTable& doc, const RtfCharFormat& format, const StyleTable& table);
 
 // Styles every character of the document, adding its formats to the table.
 DocumentStyling styleDocument(const RtfDocument& doc, StyleTable& table);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <map>
+#include <optional>
 
 #include "platform/atomic_file.h"
 
@@ -64,6 +65,20 @@ std::string fontEntry(int number, const FontKey& font) {
   return entry + fontEntryName(font.first) + ";}";
 }
 
+// The attribute string of a format: \plain, its font, size and colour, and its flags.
+std::string attributesOf(const StyleFormat& f, int font, int colour) {
+  std::string a = "\\plain\\f";
+  appendNumber(a, font);
+  a += "\\fs";
+  appendNumber(a, f.halfPoints);
+  a += "\\cf";
+  appendNumber(a, colour);
+  if (f.bold) a += "\\b";
+  if (f.italic) a += "\\i";
+  if (f.underline) a += "\\ul";
+  return a;
+}
+
 // The header and the attribute string of every style of the table.
 struct Tables {
   std::string header;
@@ -92,16 +107,7 @@ struct Tables {
         }
         colour = c->second;
       }
-      std::string& a = attributes[static_cast<std::size_t>(s)];
-      a = "\\plain\\f";
-      appendNumber(a, font->second);
-      a += "\\fs";
-      appendNumber(a, f.halfPoints);
-      a += "\\cf";
-      appendNumber(a, colour);
-      if (f.bold) a += "\\b";
-      if (f.italic) a += "\\i";
-      if (f.underline) a += "\\ul";
+      attributes[static_cast<std::size_t>(s)] = attributesOf(f, font->second, colour);
     }
     for (auto& a : attributes)
       if (a.empty()) a = attributes[0];
@@ -111,92 +117,156 @@ struct Tables {
   }
 };
 
-}  // namespace
-
-namespace {
-
 bool plainByte(unsigned char c) { return c >= 0x20 && c < 0x80 && c != '\\' && c != '{' && c != '}'; }
 
 constexpr std::size_t kPiece = 1 << 20;
+constexpr std::size_t kNoEnd = static_cast<std::size_t>(-1);
+
+// The style at each position of the text, asked in increasing order, from a run source; past
+// its end every character is in style 0.
+class RunCursor {
+ public:
+  explicit RunCursor(StyleRunSource* source) : source_(source) {
+    if (!source_) runEnd_ = kNoEnd;
+  }
+  int styleAt(std::size_t i) {
+    while (i >= runEnd_) advance();
+    return style_;
+  }
+  std::size_t runEnd() const { return runEnd_; }
+
+ private:
+  void advance() {
+    if (index_ >= batch_.size()) {
+      batch_ = source_->next();
+      index_ = 0;
+      if (batch_.empty()) {
+        style_ = 0;
+        runEnd_ = kNoEnd;
+        return;
+      }
+    }
+    runEnd_ += batch_[index_].length;
+    style_ = batch_[index_].style;
+    ++index_;
+  }
+
+  StyleRunSource* source_;
+  std::span<const StyleRun> batch_;
+  std::size_t index_ = 0;
+  std::size_t runEnd_ = 0;
+  int style_ = 0;
+};
+
+// Writes the text: an attribute string wherever the style or the strikeout changes, \par for
+// each CR LF, plain characters in stretches, the rest escaped.
+class TextWriter {
+ public:
+  TextWriter(const StyledTextView& view, const Tables& tables, StyleRunSource* runs,
+             const std::function<void(std::string_view)>& sink)
+      : text_(view.text), tables_(tables), runs_(runs), sink_(sink),
+        strikes_(view.strikeouts ? *view.strikeouts : kNone) {
+    indent_ = "\\li";
+    appendNumber(indent_, view.indentTwips);
+    indent_ += ' ';
+    out_.reserve(kPiece + 4096);
+  }
+
+  void write() {
+    out_ += tables_.header;
+    const std::size_t n = text_.size();
+    while (i_ < n) {
+      if (out_.size() >= kPiece) {
+        sink_(out_);
+        out_.clear();
+      }
+      if (i_ >= boundary_) findStrike();
+      const int style = runs_.styleAt(i_);
+      if (style != currentStyle_ || strike_ != currentStrike_) changeFormat(style);
+      const unsigned char c = static_cast<unsigned char>(text_[i_]);
+      if (c == '\r' && i_ + 1 < n && text_[i_ + 1] == '\n') {
+        // The paragraph mark carries the format of its CR, as the reader gives it to CR and LF.
+        out_ += "\\par\r\n";
+        out_ += indent_;
+        i_ += 2;
+      } else if (plainByte(c)) {
+        copyPlain();
+      } else {
+        escape(c);
+        ++i_;
+      }
+    }
+    out_ += "\\par}\r\n";
+    sink_(out_);
+  }
+
+ private:
+  // Whether position i_ is struck out, and where that may next change.
+  void findStrike() {
+    while (strikeIndex_ < strikes_.size() && strikes_[strikeIndex_].end <= i_) ++strikeIndex_;
+    if (strikeIndex_ == strikes_.size()) {
+      strike_ = false;
+      boundary_ = text_.size();
+    } else if (strikes_[strikeIndex_].start <= i_) {
+      strike_ = true;
+      boundary_ = strikes_[strikeIndex_].end;
+    } else {
+      strike_ = false;
+      boundary_ = strikes_[strikeIndex_].start;
+    }
+  }
+
+  void changeFormat(int style) {
+    out_ += tables_.attributes[static_cast<std::size_t>(style)];
+    if (strike_) out_ += "\\strike";
+    out_ += ' ';
+    currentStyle_ = style;
+    currentStrike_ = strike_;
+  }
+
+  // The stretch of plain characters in this format, in one go.
+  void copyPlain() {
+    const std::size_t limit = std::min({boundary_, runs_.runEnd(), i_ + kPiece, text_.size()});
+    std::size_t j = i_ + 1;
+    while (j < limit && plainByte(static_cast<unsigned char>(text_[j]))) ++j;
+    out_.append(text_.data() + i_, j - i_);
+    i_ = j;
+  }
+
+  void escape(unsigned char c) {
+    switch (c) {
+      case '\\': out_ += "\\\\"; break;
+      case '{': out_ += "\\{"; break;
+      case '}': out_ += "\\}"; break;
+      case '\t': out_ += "\\tab "; break;
+      default: appendHex(out_, c);
+    }
+  }
+
+  static inline const std::vector<TextRange> kNone;
+  std::string_view text_;
+  const Tables& tables_;
+  RunCursor runs_;
+  const std::function<void(std::string_view)>& sink_;
+  const std::vector<TextRange>& strikes_;
+  std::string indent_;
+  std::string out_;
+  std::size_t i_ = 0;
+  std::size_t strikeIndex_ = 0;
+  std::size_t boundary_ = 0;  // where the strikeout may next begin or end
+  bool strike_ = false;
+  int currentStyle_ = -1;
+  bool currentStrike_ = false;
+};
 
 }  // namespace
 
 void writeRtf(const StyledTextView& view, const StyleTable& table, const std::function<void(std::string_view)>& sink) {
   const Tables tables(table, view.indentTwips);
-  const std::string_view text = view.text;
-  const std::size_t n = text.size();
-  std::string out;
-  out.reserve(kPiece + 4096);
-  out += tables.header;
-  std::string indent = "\\li";
-  appendNumber(indent, view.indentTwips);
-  indent += ' ';
-
-  const bool styled = view.styles.size() == n;
-  static const std::vector<TextRange> kNone;
-  const std::vector<TextRange>& strikes = view.strikeouts ? *view.strikeouts : kNone;
-  std::size_t strikeIndex = 0;
-  std::size_t boundary = 0;  // where the strikeout may next begin or end
-  bool strike = false;
-  int currentStyle = -1;
-  bool currentStrike = false;
-  std::size_t i = 0;
-  while (i < n) {
-    if (out.size() >= kPiece) {
-      sink(out);
-      out.clear();
-    }
-    const unsigned char c = static_cast<unsigned char>(text[i]);
-    if (i >= boundary) {
-      while (strikeIndex < strikes.size() && strikes[strikeIndex].end <= i) ++strikeIndex;
-      if (strikeIndex == strikes.size()) {
-        strike = false;
-        boundary = n;
-      } else if (strikes[strikeIndex].start <= i) {
-        strike = true;
-        boundary = strikes[strikeIndex].end;
-      } else {
-        strike = false;
-        boundary = strikes[strikeIndex].start;
-      }
-    }
-    const int style = styled ? static_cast<unsigned char>(view.styles[i]) : 0;
-    if (style != currentStyle || strike != currentStrike) {
-      out += tables.attributes[static_cast<std::size_t>(style)];
-      if (strike) out += "\\strike";
-      out += ' ';
-      currentStyle = style;
-      currentStrike = strike;
-    }
-    if (c == '\r' && i + 1 < n && text[i + 1] == '\n') {
-      // The paragraph mark carries the format of its CR, as the reader gives it to CR and LF.
-      out += "\\par\r\n";
-      out += indent;
-      i += 2;
-      continue;
-    }
-    if (plainByte(c)) {
-      // Copy the stretch of plain characters in this format in one go.
-      const std::size_t limit = std::min(boundary, i + kPiece);
-      std::size_t j = i + 1;
-      while (j < limit && plainByte(static_cast<unsigned char>(text[j])) &&
-             (!styled || static_cast<unsigned char>(view.styles[j]) == style))
-        ++j;
-      out.append(text.data() + i, j - i);
-      i = j;
-      continue;
-    }
-    switch (c) {
-      case '\\': out += "\\\\"; break;
-      case '{': out += "\\{"; break;
-      case '}': out += "\\}"; break;
-      case '\t': out += "\\tab "; break;
-      default: appendHex(out, c);
-    }
-    ++i;
-  }
-  out += "\\par}\r\n";
-  sink(out);
+  std::optional<CharacterStyleRuns> perCharacter;
+  StyleRunSource* runs = view.runs;
+  if (!runs && !view.styles.empty() && view.styles.size() == view.text.size()) runs = &perCharacter.emplace(view.styles);
+  TextWriter(view, tables, runs, sink).write();
 }
 
 std::string writeRtf(const StyledTextView& view, const StyleTable& table) {

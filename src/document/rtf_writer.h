@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "document/rtf_styling.h"
+#include "document/style_runs.h"
 #include "document/style_table.h"
 
 namespace lathwick {
@@ -17,6 +18,9 @@ struct StyledTextView {
   std::string_view styles;                        // one style byte per character, or empty
   const std::vector<TextRange>* strikeouts = nullptr;  // offsets into `text`
   int indentTwips = 0;
+  // The styles as runs instead (read once, from the start); when given, `styles` is not used.
+  // Text past the end of the runs is in style 0.
+  StyleRunSource* runs = nullptr;
 };
 
 std::string writeRtf(const StyledTextView& view, const StyleTable& table);

@@ -1,7 +1,6 @@
 #include "document/style_pieces.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace lathwick {
 
@@ -50,18 +49,13 @@ void StylePieces::insert(std::size_t position, std::size_t length) {
   pieces_.insert(pieces_.begin() + static_cast<std::ptrdiff_t>(at), Piece{false, 0, length});
 }
 
-std::string StylePieces::assemble(std::string_view loaded, std::size_t length,
-                                  const std::function<void(std::size_t, std::size_t, char*)>& readBack) const {
-  std::string out(length, '\0');
+std::vector<StylePieces::Stretch> StylePieces::stretches(std::size_t length) const {
+  std::vector<Stretch> out;
   std::size_t at = 0;
   for (const Piece& p : pieces_) {
     const std::size_t n = std::min(p.length, length - std::min(at, length));
     if (n == 0) break;
-    if (!p.loaded) {
-      readBack(at, n, out.data() + at);
-    } else if (!loaded.empty() && p.start + n <= loaded.size()) {
-      std::memcpy(out.data() + at, loaded.data() + p.start, n);
-    }
+    out.push_back({p.loaded, p.loaded ? p.start : 0, at, n});
     at += n;
   }
   return out;

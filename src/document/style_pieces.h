@@ -1,11 +1,8 @@
 #pragma once
 // Where the styles of a document come from since it was loaded: stretches of the styles it was
-// loaded with, and stretches of text edited since. Saving then copies the loaded styles and
+// loaded with, and stretches of text edited since. Saving then takes the loaded styles and
 // asks the control only for the edited stretches, instead of reading every style back.
 #include <cstddef>
-#include <functional>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace lathwick {
@@ -20,10 +17,17 @@ class StylePieces {
   // True while the document is exactly as loaded.
   bool unchanged(std::size_t length) const;
 
-  // The styles of the whole document (`length` characters): loaded stretches are copied from
-  // `loaded` (empty: all style 0), edited ones filled by `readBack(position, count, out)`.
-  std::string assemble(std::string_view loaded, std::size_t length,
-                       const std::function<void(std::size_t, std::size_t, char*)>& readBack) const;
+  // One stretch of the document: `count` characters from `at`, either as loaded (then they
+  // are the loaded styles from `loadedStart`) or edited since.
+  struct Stretch {
+    bool loaded;
+    std::size_t loadedStart;
+    std::size_t at;
+    std::size_t count;
+    bool operator==(const Stretch&) const = default;
+  };
+  // The stretches of the first `length` characters, in order.
+  std::vector<Stretch> stretches(std::size_t length) const;
 
  private:
   struct Piece {

@@ -49,25 +49,44 @@ class ProgressPlan {
   PassMonitor& monitor_;
 };
 
+// Writes the output file: the header, each input line as rich text, the trailer. False when the
+// user cancelled; the output file is then left as it was. Throws AppError when a file fails.
+bool writeColorized(const SchemeRecord& scheme, const PassFrame& frame, ColorizeView view, const std::string& inputPath,
+                    const std::string& outputPath, ProgressPlan& progress, long& linesWritten) {
+  LineColorizer colorizer(frame, view, buildMarkerList(scheme));
+  LineReader reader(inputPath);
+  AtomicFileWriter out(outputPath, Durability::Scratch);
+  out.writeLine(frame.header);
+  std::string line;
+  std::string text;
+  const std::string firstStart = frame.lineStart(true);
+  const std::string laterStart = frame.lineStart(false);
+  // Lines are gathered into blocks so that the writer sees few, large writes.
+  constexpr std::size_t kBlock = 1 << 18;
+  text.reserve(kBlock + 4096);
+  while (reader.next(line)) {
+    text += linesWritten == 0 ? firstStart : laterStart;
+    colorizer.colorize(line, text);
+    text += "\r\n";
+    if (text.size() >= kBlock) {
+      out.write(text);
+      text.clear();
+    }
+    ++linesWritten;
+    if (progress.lineWritten(linesWritten)) return false;  // the writer is dropped unwritten
+  }
+  out.write(text);
+  out.writeLine(frame.trailer);
+  out.commit();
+  return true;
+}
+
 }  // namespace
 
-std::string colorizeErrorMessage(int number, const std::string& description) {
-  return "The error " + std::to_string(number) + " " + description +
-         " occurred during the creation of the formatted output file.";
-}
-
-std::string ColorizeResult::message() const {
-  switch (outcome) {
-    case ColorizeOutcome::Refused: return kJunkFilterMessage;
-    case ColorizeOutcome::Cancelled: return kCancelMessage;
-    case ColorizeOutcome::Failed: return colorizeErrorMessage(errorNumber, errorDescription);
-    default: return {};
-  }
-}
-
-ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const std::string& inputPath,
-                            const std::string& outputPath, PassMonitor& monitor, const std::string* commentOverride) {
-  ColorizeResult result;
+PassResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const std::string& inputPath,
+                        const std::string& outputPath, PassMonitor& monitor, const std::string* commentOverride) {
+  PassResult result;
+  result.outcome = PassOutcome::NoInput;
   if (inputPath.empty() || !isRegularFile(inputPath)) return result;
 
   long lineCount = 0;
@@ -77,51 +96,25 @@ ColorizeResult colorizeFile(const SchemeRecord& scheme, ColorizeView view, const
     return result;  // vanished or unreadable: as if it were not there
   }
   if (lineCount < 0) {
-    result.outcome = ColorizeOutcome::Refused;
+    result.outcome = PassOutcome::Refused;
+    result.message = kJunkFilterMessage;
     return result;
   }
 
   const PassFrame frame = makePassFrame(scheme, commentOverride);
-  result.backColour = frame.backColour;
   ProgressPlan progress(lineCount, monitor);
   monitor.clearCancel();
   try {
-    LineColorizer colorizer(frame, view, buildMarkerList(scheme));
-    LineReader reader(inputPath);
-    AtomicFileWriter out(outputPath, Durability::Scratch);
-    out.writeLine(frame.header);
-    std::string line;
-    std::string text;
-    const std::string firstStart = frame.lineStart(true);
-    const std::string laterStart = frame.lineStart(false);
-    // Lines are gathered into blocks so that the writer sees few, large writes.
-    constexpr std::size_t kBlock = 1 << 18;
-    text.reserve(kBlock + 4096);
-    while (reader.next(line)) {
-      text += result.linesWritten == 0 ? firstStart : laterStart;
-      colorizer.colorize(line, text);
-      text += "\r\n";
-      if (text.size() >= kBlock) {
-        out.write(text);
-        text.clear();
-      }
-      ++result.linesWritten;
-      if (progress.lineWritten(result.linesWritten)) {
-        monitor.clearCancel();
-        progress.end();
-        monitor.statusText(kReadyStatus);
-        result.outcome = ColorizeOutcome::Cancelled;
-        return result;  // the writer is dropped: the output file is left as it was
-      }
+    if (!writeColorized(scheme, frame, view, inputPath, outputPath, progress, result.count)) {
+      monitor.clearCancel();
+      progress.end();
+      monitor.statusText(kReadyStatus);
+      return cancelledResult(result.count);  // the writer was dropped: the output file is left as it was
     }
-    out.write(text);
-    out.writeLine(frame.trailer);
-    out.commit();
-    result.outcome = ColorizeOutcome::Done;
+    result.outcome = PassOutcome::Completed;
+    result.reload = true;
   } catch (const AppError& e) {
-    result.outcome = ColorizeOutcome::Failed;
-    result.errorNumber = e.number();
-    result.errorDescription = e.description();
+    result = failedResult(e.number(), e.description(), kColorizeErrorEnding);
   }
   progress.end();
   monitor.statusText(kReadyStatus);

@@ -13,8 +13,18 @@ inline std::size_t inStr(std::size_t start, std::string_view s, std::string_view
   if (start < 1) start = 1;
   if (s.empty() || start > s.size()) return 0;
   if (t.empty()) return start;
-  const std::size_t at = s.find(t, start - 1);
-  return at == std::string_view::npos ? 0 : at + 1;
+  if (t.size() > s.size()) return 0;
+  // Program lines and the texts sought are short: a plain loop costs less than the library's
+  // search, which the colorizer would call some thirty times a line.
+  const char first = t.front();
+  const std::size_t last = s.size() - t.size();
+  for (std::size_t i = start - 1; i <= last; ++i) {
+    if (s[i] != first) continue;
+    std::size_t k = 1;
+    while (k < t.size() && s[i + k] == t[k]) ++k;
+    if (k == t.size()) return i + 1;
+  }
+  return 0;
 }
 
 // The first position after the number that follows `word` (searched in line from start):

@@ -1,5 +1,7 @@
 #include "format/line_colorizer.h"
 
+#include <cstring>
+
 namespace lathwick {
 
 namespace {
@@ -137,18 +139,20 @@ void LineColorizer::markCodeTexts(std::string_view line) {
       const std::string_view word = text.substr(0, text.size() - 1);
       scan_ = inStr(scan_ + 1, line, prefix);
       while (scan_ > 0) {
-        const std::size_t next = scan_ + prefix.size();  // 1-based position after the prefix
+        const std::size_t hit = scan_;
+        std::size_t from = hit + 1;  // a hit that does not count: on after it
+        const std::size_t next = hit + prefix.size();  // 1-based position after the prefix
         if (next <= line.size() && startsNumber(line[next - 1])) {
-          const std::size_t hit = scan_;
           put(hit, code);
           const std::size_t end = numberEnd(hit, line, word);
           endWordAt(end);
           clearBetween(hit, end);
-          // An end before the hit (the text after the prefix is not in the line) must not
-          // send the search back: it goes on after the hit instead.
-          scan_ = end > hit ? end : hit;
+          // On from the end of the mark, so a word right after it is found too. An end before
+          // the hit (the text after the prefix is not in the line) must not send the search
+          // back: it goes on after the hit instead.
+          if (end > hit) from = end;
         }
-        scan_ = inStr(scan_ + 1, line, prefix);
+        scan_ = inStr(from, line, prefix);
       }
     } else {
       scan_ = inStr(scan_ + 1, line, m.text);
@@ -157,7 +161,7 @@ void LineColorizer::markCodeTexts(std::string_view line) {
         put(scan_, code);
         endWordAt(end);
         clearBetween(scan_, end);
-        scan_ = inStr(end + 1, line, m.text);
+        scan_ = inStr(end, line, m.text);  // on from the end of the mark: "MM" holds two "M"
       }
     }
   }
@@ -176,6 +180,36 @@ void LineColorizer::markComment() {
 }
 
 void LineColorizer::emit(std::string_view line, std::string& out) const {
+  if (occurs('\\') || occurs('{') || occurs('}')) {
+    emitEscaped(line, out);
+    return;
+  }
+  // No character to escape: only the positions with a code matter, found eight at a time.
+  const std::size_t len = line.size();
+  std::uint8_t current = kEndOfWord;
+  std::size_t runStart = 0;  // 0-based start of the characters not yet appended
+  std::size_t i = 1;
+  while (i <= len + 1) {
+    std::uint64_t eight = 0;
+    if (i + 8 <= codes_.size()) std::memcpy(&eight, codes_.data() + i, 8);
+    if (i + 8 <= codes_.size() && eight == 0) {
+      i += 8;
+      continue;
+    }
+    const std::uint8_t c = codes_[i];
+    if (c != kNoCode && c != current) {
+      out.append(line.data() + runStart, (i - 1) - runStart);
+      runStart = i - 1;
+      current = c;
+      out += strings_[c];
+    }
+    ++i;
+  }
+  out.append(line.data() + runStart, len - runStart);
+}
+
+// The same for a line with "\\", "{" or "}": each is escaped, after the code string at its place.
+void LineColorizer::emitEscaped(std::string_view line, std::string& out) const {
   const std::size_t len = line.size();
   std::uint8_t current = kEndOfWord;
   std::size_t runStart = 0;  // 0-based start of the characters not yet appended

@@ -33,6 +33,7 @@ class LineColorizer {
   void markComment();
   bool occurs(char c) const { return present_[static_cast<unsigned char>(c)]; }
   void emit(std::string_view line, std::string& out) const;
+  void emitEscaped(std::string_view line, std::string& out) const;
 
   // 1-based code slots 1..length+1 live at codes_[1..length+1].
   void put(std::size_t pos, std::uint8_t code) {

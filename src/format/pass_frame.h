@@ -15,6 +15,10 @@ struct CommentDelimiters {
   char open = '(';
   char close = ')';
   bool active = true;  // false when the comment text is empty: no comments are recognised
+
+  // The delimiters as the passes look for them: empty texts when no comments are recognised.
+  std::string openText() const { return active ? std::string(1, open) : std::string(); }
+  std::string closeText() const { return active ? std::string(1, close) : std::string(); }
 };
 
 // The pair for a comment text: "(" gives "()", "[" "[]", a double quote two double quotes, "{"

@@ -101,6 +101,14 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
   }
 }
 
+std::string commentStartText(const std::string& dataFile, long n) {
+  try {
+    return trimBlanks(loadScheme(dataFile, n).style(0, kCommentStyle).marker);
+  } catch (const AppError&) {
+    return "(";
+  }
+}
+
 void removeSchemeRecord(const std::string& dataFile, const std::string& tempFile, long n) {
   if (isReadOnlyFile(dataFile)) throw DataFileProblem(err::kPermissionDenied);
   const auto bytes = readWholeFile(dataFile);

@@ -50,6 +50,10 @@ void writeSchemeRecord(const std::string& dataFile, long n, const SchemeRecord& 
 // Record n with its fragments rebuilt, ready to be the current scheme.
 SchemeRecord loadScheme(const std::string& dataFile, long n);
 
+// The comment-start text of record n (set 0, style 10 marker, blanks trimmed), "(" when the data
+// file cannot give it.
+std::string commentStartText(const std::string& dataFile, long n);
+
 // The bundled data file of the batch tool: "Lathwick.dat" beside the running executable, or in
 // the installed data folder when the executable has none beside it.
 std::string bundledDataFilePath();

@@ -75,7 +75,7 @@ StartupResult runStartup(StartupHost& host) {
     v.StartupFile = noQuotes;
   });
   step([&] { ownFolder = WithBackslash(host.executableFolder()); });
-  step([&] { v.AppFolder = WithBackslash(host.settings().get(kStartup, "app_path", "")); });
+  step([&] { v.AppFolder = WithBackslash(readSetting(host.settings(), Setting::AppPath)); });
   step([&] {
     if (v.AppFolder.empty()) v.AppFolder = ownFolder;
   });
@@ -85,7 +85,7 @@ StartupResult runStartup(StartupHost& host) {
   step([&] { v.AppFolder = withInstalledDataFolder(host, v.AppFolder); });
   step([&] { v.AppFolder = settleWritableAppFolder(host, v.AppFolder); });
   step([&] { v.DataFilePath = v.AppFolder + kDataFileName; });
-  step([&] { host.settings().save(kStartup, "app_path", v.AppFolder); });
+  step([&] { writeSetting(host.settings(), Setting::AppPath, v.AppFolder); });
   step([&] { host.showSplash(); });
   if (!FileExists(v.DataFilePath)) {
     step([&] { host.showMissingDataFile(kMissingDataFileMessage); });
@@ -94,7 +94,7 @@ StartupResult runStartup(StartupHost& host) {
     return result;
   }
   step([&] { setWorkFiles(v, v.AppFolder); });
-  step([&] { v.CurrentScheme = toInt16(host.settings().get(kStartup, "record", "1")); });
+  step([&] { v.CurrentScheme = toInt16(readSetting(host.settings(), Setting::Record)); });
   step([&] { v.VersionText = makeVersionText(kAppTitle, LATHWICK_VERSION_MAJOR, LATHWICK_VERSION_MINOR); });
   step([&] { host.loadMainWindow(v); });
   step([&] { host.loadSchemeEditor(v); });

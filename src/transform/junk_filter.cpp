@@ -90,7 +90,7 @@ PassResult runJunkFilter(const std::string& inPath, const std::string& outPath, 
     result.message = kJunkFilterFailed;
   }
   if (in) std::fclose(in);
-  monitor.statusText(kStatusReady);
+  monitor.statusText(kReadyStatus);
   return result;
 }
 

@@ -75,16 +75,16 @@ OperateValidation validateOperate(const OperateEntries& entries) {
   return v;
 }
 
-OperateLine::OperateLine(const OperateRequest& request, const RichTextFrame& frame)
+OperateLine::OperateLine(const OperateRequest& request, const PassFrame& frame)
     : addresses_(request.addresses),
       op_(request.op),
       operand_(request.operand),
       picture_(request.format),
       excludeComments_(request.excludeComments),
-      open_(frame.commentOpen),
-      close_(frame.commentClose),
-      markStart_(frame.markStart),
-      markEnd_(frame.markEnd) {}
+      open_(frame.comment.openText()),
+      close_(frame.comment.closeText()),
+      markStart_(frame.highlightStart),
+      markEnd_(frame.highlightEnd) {}
 
 double OperateLine::compute(double value) const {
   switch (op_) {
@@ -105,56 +105,10 @@ long OperateLine::transform(std::string_view raw, std::string& line, std::vector
   for (const char address : addresses_) {
     // A value character cannot be an address: its own values would overlap the others.
     if (isValueCharacter(address)) continue;
-    size_t p = line.find(address);
-    if (p == std::string::npos) continue;
-    // The line is rebuilt left to right into done_, which is what changing each value in place
-    // would give, without moving the rest of a long line at every value. The values marked for
-    // earlier addresses move along with the text around them.
-    done_.clear();
-    size_t cursor = 0;
-    size_t moved = 0;  // earlier stretches already carried over
     const size_t before = marks.size();
-    long operations = 0;
-    auto carry = [&](size_t limit) {
-      const size_t shift = done_.size() - cursor;  // wraps for a shrinking line; the sum is right
-      for (; moved < before && marks[moved].start < limit; ++moved)
-        marks[moved].start += shift, marks[moved].end += shift;
-    };
-    while (p != std::string::npos) {
-      const long position = static_cast<long>(done_.size() + (p - cursor)) + 1;
-      // With an opening delimiter on the line, only letters at or before it and at or after the
-      // closing one count; so a complete comment keeps the whole line as it is.
-      if (open > 0 && !(position <= open && position >= close)) break;
-      const size_t valueStart = p + 1;
-      size_t valueEnd = valueStart;
-      while (valueEnd < line.size() && isValueCharacter(line[valueEnd])) ++valueEnd;
-      if (valueEnd == valueStart) {
-        p = line.find(address, valueStart);
-        continue;
-      }
-      const double result = compute(leadingValue(std::string_view(line).substr(valueStart, valueEnd - valueStart)));
-      number_.clear();
-      picture_.format(result, number_);
-      carry(valueStart);
-      done_.append(line, cursor, valueStart - cursor);
-      const Stretch mark{done_.size(), done_.size() + number_.size()};
-      // A letter given twice ("XX") works on a value it already changed. A mark starts just
-      // after its letter and covers the whole value, so such a value begins where an earlier
-      // mark begins: that mark moves over the new text instead of a second one being added.
-      if (moved < before && marks[moved].start == valueStart)
-        marks[moved++] = mark;
-      else
-        marks.push_back(mark);
-      done_.append(number_);
-      ++operations;
-      cursor = valueEnd;
-      p = line.find(address, valueEnd);
-    }
+    const long operations = operateOn(address, open, close, line, marks);
     if (operations == 0) continue;
     count += operations;
-    carry(std::string::npos);
-    done_.append(line, cursor, std::string::npos);
-    line.swap(done_);
     // Usually the addresses come in the order of the line (X before Y before Z) and nothing
     // needs merging.
     if (before > 0 && marks.size() > before && marks[before].start < marks[before - 1].start)
@@ -162,6 +116,59 @@ long OperateLine::transform(std::string_view raw, std::string& line, std::vector
                          [](const Stretch& a, const Stretch& b) { return a.start < b.start; });
   }
   return count;
+}
+
+long OperateLine::operateOn(char address, long open, long close, std::string& line, std::vector<Stretch>& marks) {
+  size_t p = line.find(address);
+  if (p == std::string::npos) return 0;
+  // The line is rebuilt left to right into done_, which is what changing each value in place
+  // would give, without moving the rest of a long line at every value. The values marked for
+  // earlier addresses move along with the text around them.
+  done_.clear();
+  size_t cursor = 0;
+  size_t moved = 0;  // earlier stretches already carried over
+  const size_t before = marks.size();
+  long operations = 0;
+  auto carry = [&](size_t limit) {
+    const size_t shift = done_.size() - cursor;  // wraps for a shrinking line; the sum is right
+    for (; moved < before && marks[moved].start < limit; ++moved)
+      marks[moved].start += shift, marks[moved].end += shift;
+  };
+  while (p != std::string::npos) {
+    const long position = static_cast<long>(done_.size() + (p - cursor)) + 1;
+    // With an opening delimiter on the line, only letters at or before it and at or after the
+    // closing one count; so a complete comment keeps the whole line as it is.
+    if (open > 0 && !(position <= open && position >= close)) break;
+    const size_t valueStart = p + 1;
+    size_t valueEnd = valueStart;
+    while (valueEnd < line.size() && isValueCharacter(line[valueEnd])) ++valueEnd;
+    if (valueEnd == valueStart) {
+      p = line.find(address, valueStart);
+      continue;
+    }
+    const double result = compute(leadingValue(std::string_view(line).substr(valueStart, valueEnd - valueStart)));
+    number_.clear();
+    picture_.format(result, number_);
+    carry(valueStart);
+    done_.append(line, cursor, valueStart - cursor);
+    const Stretch mark{done_.size(), done_.size() + number_.size()};
+    // A letter given twice ("XX") works on a value it already changed. A mark starts just
+    // after its letter and covers the whole value, so such a value begins where an earlier
+    // mark begins: that mark moves over the new text instead of a second one being added.
+    if (moved < before && marks[moved].start == valueStart)
+      marks[moved++] = mark;
+    else
+      marks.push_back(mark);
+    done_.append(number_);
+    ++operations;
+    cursor = valueEnd;
+    p = line.find(address, valueEnd);
+  }
+  if (operations == 0) return 0;
+  carry(std::string::npos);
+  done_.append(line, cursor, std::string::npos);
+  line.swap(done_);
+  return operations;
 }
 
 long OperateLine::apply(std::string_view raw, std::string& line) {
@@ -172,20 +179,14 @@ long OperateLine::apply(std::string_view raw, std::string& line) {
 }
 
 PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,
-                      const RichTextFrame& frame, PassMonitor& monitor) {
+                      const PassFrame& frame, PassMonitor& monitor) {
   RichPassSettings settings;
   settings.statusText = kOperatingStatus;
   settings.countPhrase = kOperationsPhrase;
   settings.errorEnding = kOperateErrorEnding;
   settings.displayLineCount = request.displayLineCount;
-  if (!NumericPicture::isValid(request.format)) {
-    PassResult r;
-    r.outcome = PassOutcome::Failed;
-    r.errorNumber = 5;
-    r.errorDescription = "Invalid procedure call or argument";
-    r.message = passErrorMessage(r.errorNumber, r.errorDescription, settings.errorEnding);
-    return r;
-  }
+  if (!NumericPicture::isValid(request.format))
+    return failedResult(5, "Invalid procedure call or argument", settings.errorEnding);
   OperateLine transform(request, frame);
   return runRichPass(inPath, outPath, frame, request.range, transform, settings, monitor);
 }

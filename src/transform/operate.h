@@ -10,9 +10,9 @@
 #include "transform/marker_insert.h"
 #include "transform/numeric_picture.h"
 #include "transform/operation_range.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 #include "transform/rich_pass.h"
-#include "transform/rich_text_frame.h"
+#include "format/pass_frame.h"
 
 namespace lathwick::transform {
 
@@ -59,13 +59,15 @@ struct OperateRequest {
 // The per-line work on an escaped line; `raw` is the line before escaping.
 class OperateLine : public RichLineTransform {
  public:
-  OperateLine(const OperateRequest& request, const RichTextFrame& frame);
+  OperateLine(const OperateRequest& request, const PassFrame& frame);
   long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override;
   // The same with the markers put into the line.
   long apply(std::string_view raw, std::string& line);
 
  private:
   double compute(double value) const;
+  // Changes every value of one address letter in the line; the number of values changed.
+  long operateOn(char address, long open, long close, std::string& line, std::vector<Stretch>& marks);
   std::string addresses_;
   char op_;
   double operand_;
@@ -79,6 +81,6 @@ class OperateLine : public RichLineTransform {
 // The operate pass. The caller validates first; a picture the formatter cannot read fails the
 // pass with error 5.
 PassResult runOperate(const std::string& inPath, const std::string& outPath, const OperateRequest& request,
-                      const RichTextFrame& frame, PassMonitor& monitor);
+                      const PassFrame& frame, PassMonitor& monitor);
 
 }  // namespace lathwick::transform

@@ -40,7 +40,7 @@ PassResult runPlainPass(const std::string& inPath, const std::string& outPath, P
   } catch (const std::bad_alloc&) {
     result = failed(7, "Out of memory", settings);
   }
-  monitor.statusText(kStatusReady);
+  monitor.statusText(kReadyStatus);
   return result;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/pass_monitor.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 
 namespace lathwick::transform {
 

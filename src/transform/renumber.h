@@ -7,7 +7,7 @@
 
 #include "platform/pass_monitor.h"
 #include "transform/operation_range.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 #include "transform/plain_pass.h"
 
 namespace lathwick::transform {

@@ -197,10 +197,10 @@ PassResult runRenumberKeepingReferences(const std::string& inPath, const std::st
   try {
     found = survey(inPath, request);
   } catch (const AppError& e) {
-    monitor.statusText(kStatusReady);
+    monitor.statusText(kReadyStatus);
     return failed(e.number(), e.description());
   } catch (const std::bad_alloc&) {
-    monitor.statusText(kStatusReady);
+    monitor.statusText(kReadyStatus);
     return failed(7, "Out of memory");
   }
   Resolver resolver(found, trimBlanks(request.sequenceText));
@@ -210,7 +210,7 @@ PassResult runRenumberKeepingReferences(const std::string& inPath, const std::st
     if (lines.empty() || lines.back() != f.line) lines.push_back(f.line);
   }
   if (resolver.problemCount() > 0) {
-    monitor.statusText(kStatusReady);
+    monitor.statusText(kReadyStatus);
     return refused(resolver);
   }
   RenumberKeepingReferences transform(request, resolver, std::move(lines));

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/pass_monitor.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 #include "transform/renumber.h"
 
 namespace lathwick::transform {

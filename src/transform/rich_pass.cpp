@@ -15,10 +15,6 @@
 
 namespace lathwick::transform {
 
-std::string passErrorMessage(int number, const std::string& description, const char* ending) {
-  return "The error " + std::to_string(number) + " " + description + ending;
-}
-
 long countWorkFileLines(const std::string& path) {
   std::FILE* f = std::fopen(nativePath(path).c_str(), "rb");
   if (!f) return 0;
@@ -40,15 +36,6 @@ long countWorkFileLines(const std::string& path) {
 
 namespace {
 
-PassResult failed(int number, const std::string& description, const RichPassSettings& settings) {
-  PassResult r;
-  r.outcome = PassOutcome::Failed;
-  r.errorNumber = number;
-  r.errorDescription = description;
-  r.message = passErrorMessage(number, description, settings.errorEnding);
-  return r;
-}
-
 // Ends the progress display however the loop is left.
 struct ProgressGuard {
   PassMonitor& monitor;
@@ -59,7 +46,7 @@ struct ProgressGuard {
 };
 
 // Runs the loop; throws AppError for I/O failures.
-PassResult richLoop(const std::string& inPath, const std::string& outPath, const RichTextFrame& frame,
+PassResult richLoop(const std::string& inPath, const std::string& outPath, const PassFrame& frame,
                     const LineRange& range, RichLineTransform& transform, const RichPassSettings& settings,
                     PassMonitor& monitor) {
   long total = settings.displayLineCount;
@@ -97,20 +84,14 @@ PassResult richLoop(const std::string& inPath, const std::string& outPath, const
     size_t from = 0;
     for (const Stretch& s : marks) {
       out.append(std::string_view(line).substr(from, s.start - from));
-      out.append(frame.markStart);
+      out.append(frame.highlightStart);
       out.append(std::string_view(line).substr(s.start, s.end - s.start));
-      out.append(frame.markEnd);
+      out.append(frame.highlightEnd);
       from = s.end;
     }
     out.appendLine(std::string_view(line).substr(from));
-    if (monitor.cancelRequested()) {
-      PassResult c;
-      c.outcome = PassOutcome::Cancelled;
-      c.count = result.count;
-      c.message = kCancelledMessage;
-      c.title = kCancelledTitle;
-      return c;  // the temporary output is discarded; the document keeps its text
-    }
+    if (monitor.cancelRequested())
+      return cancelledResult(result.count);  // the temporary output is discarded; the document keeps its text
   }
   out.appendLine(trimRightBlanks(frame.trailer));
   out.commit();
@@ -121,7 +102,7 @@ PassResult richLoop(const std::string& inPath, const std::string& outPath, const
 
 }  // namespace
 
-PassResult runRichPass(const std::string& inPath, const std::string& outPath, const RichTextFrame& frame,
+PassResult runRichPass(const std::string& inPath, const std::string& outPath, const PassFrame& frame,
                        const LineRange& range, RichLineTransform& transform, const RichPassSettings& settings,
                        PassMonitor& monitor) {
   try {
@@ -145,11 +126,11 @@ PassResult runRichPass(const std::string& inPath, const std::string& outPath, co
   try {
     r = richLoop(inPath, outPath, frame, range, transform, settings, monitor);
   } catch (const AppError& e) {
-    r = failed(e.number(), e.description(), settings);
+    r = failedResult(e.number(), e.description(), settings.errorEnding);
   } catch (const std::bad_alloc&) {
-    r = failed(7, "Out of memory", settings);
+    r = failedResult(7, "Out of memory", settings.errorEnding);
   }
-  monitor.statusText(kStatusReady);
+  monitor.statusText(kReadyStatus);
   return r;
 }
 

@@ -10,8 +10,8 @@
 #include "platform/pass_monitor.h"
 #include "transform/marker_insert.h"
 #include "transform/operation_range.h"
-#include "transform/pass_result.h"
-#include "transform/rich_text_frame.h"
+#include "platform/pass_result.h"
+#include "format/pass_frame.h"
 
 namespace lathwick::transform {
 
@@ -37,12 +37,9 @@ struct RichPassSettings {
 // Runs the format check first: a file with line feeds but no CR LF pair is refused with the
 // junk-filter message. The output is written (through a temporary file) only when the pass
 // completes; `reload` is set when at least one change was made.
-PassResult runRichPass(const std::string& inPath, const std::string& outPath, const RichTextFrame& frame,
+PassResult runRichPass(const std::string& inPath, const std::string& outPath, const PassFrame& frame,
                        const LineRange& range, RichLineTransform& transform, const RichPassSettings& settings,
                        PassMonitor& monitor);
-
-// The message of a runtime error inside a pass: "The error 6 Overflow" + ending.
-std::string passErrorMessage(int number, const std::string& description, const char* ending);
 
 // Lines of a work file as the line reader would split them (for the progress display).
 long countWorkFileLines(const std::string& path);

@@ -6,14 +6,14 @@
 namespace lathwick::transform {
 
 ReplaceLine::ReplaceLine(std::string_view findText, std::string_view replaceText, int flags,
-                         const RichTextFrame& frame)
+                         const PassFrame& frame)
     : find_(escapeRichText(findText)),
       replace_(escapeRichText(replaceText)),
       flags_(flags),
-      open_(frame.commentOpen),
-      close_(frame.commentClose),
-      markStart_(frame.markStart),
-      markEnd_(frame.markEnd) {}
+      open_(frame.comment.openText()),
+      close_(frame.comment.closeText()),
+      markStart_(frame.highlightStart),
+      markEnd_(frame.highlightEnd) {}
 
 long ReplaceLine::transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) {
   if (find_.empty()) return 0;
@@ -46,7 +46,7 @@ long ReplaceLine::apply(std::string_view raw, std::string& line) {
 
 namespace {
 PassResult runSearchPass(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
-                         const std::string& replaceText, const char* status, const RichTextFrame& frame,
+                         const std::string& replaceText, const char* status, const PassFrame& frame,
                          PassMonitor& monitor) {
   ReplaceLine transform(request.findText, replaceText, request.flags, frame);
   RichPassSettings settings;
@@ -59,12 +59,12 @@ PassResult runSearchPass(const std::string& inPath, const std::string& outPath, 
 }  // namespace
 
 PassResult runReplaceAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
-                         const RichTextFrame& frame, PassMonitor& monitor) {
+                         const PassFrame& frame, PassMonitor& monitor) {
   return runSearchPass(inPath, outPath, request, request.replaceText, kReplacingStatus, frame, monitor);
 }
 
 PassResult runHighlightAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
-                           const RichTextFrame& frame, PassMonitor& monitor) {
+                           const PassFrame& frame, PassMonitor& monitor) {
   return runSearchPass(inPath, outPath, request, request.findText, kHighlightingStatus, frame, monitor);
 }
 

@@ -9,9 +9,9 @@
 #include "platform/pass_monitor.h"
 #include "transform/marker_insert.h"
 #include "transform/operation_range.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 #include "transform/rich_pass.h"
-#include "transform/rich_text_frame.h"
+#include "format/pass_frame.h"
 
 namespace lathwick::transform {
 
@@ -33,7 +33,7 @@ struct SearchRequest {
 // marks them. `raw` is the line before escaping (the comment delimiters are looked up there).
 class ReplaceLine : public RichLineTransform {
  public:
-  ReplaceLine(std::string_view findText, std::string_view replaceText, int flags, const RichTextFrame& frame);
+  ReplaceLine(std::string_view findText, std::string_view replaceText, int flags, const PassFrame& frame);
   long transform(std::string_view raw, std::string& line, std::vector<Stretch>& marks) override;
   // The same with the markers put into the line.
   long apply(std::string_view raw, std::string& line);
@@ -47,9 +47,9 @@ class ReplaceLine : public RichLineTransform {
 };
 
 PassResult runReplaceAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
-                         const RichTextFrame& frame, PassMonitor& monitor);
+                         const PassFrame& frame, PassMonitor& monitor);
 PassResult runHighlightAll(const std::string& inPath, const std::string& outPath, const SearchRequest& request,
-                           const RichTextFrame& frame, PassMonitor& monitor);
+                           const PassFrame& frame, PassMonitor& monitor);
 
 // The dialog's own error texts around a pass that could not start.
 std::string replaceCommandError(int number, const std::string& text);    // "Search/Replace Error 5; ..."

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/pass_monitor.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
 #include "transform/plain_pass.h"
 
 namespace lathwick::transform {

@@ -10,7 +10,6 @@
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
 #include "format/pass_frame.h"
-#include "transform/scheme_frame.h"
 #include "format/scheme_data_file.h"
 #include "platform/app_names.h"
 #include "platform/bytes.h"
@@ -18,7 +17,6 @@
 #include "platform/pass_monitor.h"
 #include "transform/junk_filter.h"
 #include "transform/spaces.h"
-#include "workspace/pass_report.h"
 
 namespace fs = std::filesystem;
 
@@ -90,21 +88,27 @@ void HeadlessDocument::colorize(ColorizeRun run) {
     return;
   }
   const SchemeRecord scheme = loadScheme(workspace_.dataFile(), workspace_.currentScheme());
-  const ColorizeResult result =
+  const PassResult result =
       colorizeFile(scheme, run == ColorizeRun::Modes ? ColorizeView::Modes : ColorizeView::Codes, in, out,
                    silentMonitor());
+  takeOutput(result, out, true);  // the colorizer writes rich text whatever the work file is called
+}
+
+void HeadlessDocument::takeOutput(const PassResult& result, const std::string& path, bool rich) {
   const PassReport report = reportOf(result);
-  if (result.outcome == ColorizeOutcome::Done)
-    loadRich(out);  // the colorizer writes rich text whatever the work file is called
-  else if (report.shown)
+  if (result.outcome == PassOutcome::Completed && result.reload) {
+    if (rich) loadRich(path);
+    else if (std::optional<std::string> bytes = readWholeFile(path)) loadPlain(std::move(*bytes));
+  } else if (report.shown) {
     workspace_.messageBox(report.text, report.caption, Buttons::Ok, report.icon);
+  }
 }
 
 void HeadlessDocument::runPass(DocumentPassKind pass) {
   const std::string in = workspace_.inputWorkFile(), out = workspace_.outputWorkFile();
   if (!writeInput(in)) return;
   const std::string comment = commentStartText(workspace_.dataFile(), workspace_.currentScheme());
-  transform::PassResult result;
+  PassResult result;
   switch (pass) {
     case DocumentPassKind::AddSpaces:
       result = transform::runAddSpaces(in, out, comment, silentMonitor());
@@ -116,12 +120,7 @@ void HeadlessDocument::runPass(DocumentPassKind pass) {
       result = transform::runJunkFilter(in, out, silentMonitor());
       break;
   }
-  const PassReport report = reportOf(result);
-  if (result.outcome == transform::PassOutcome::Completed && result.reload) {
-    if (std::optional<std::string> bytes = readWholeFile(out)) loadPlain(std::move(*bytes));
-  } else if (report.shown) {
-    workspace_.messageBox(report.text, report.caption, Buttons::Ok, report.icon);
-  }
+  takeOutput(result, out, false);
 }
 
 void HeadlessDocument::operate(const transform::OperateEntries& entries) {
@@ -140,11 +139,8 @@ void HeadlessDocument::operate(const transform::OperateEntries& entries) {
   request.displayLineCount = lineCount();
   try {
     const SchemeRecord scheme = loadScheme(workspace_.dataFile(), workspace_.currentScheme());
-    const transform::RichTextFrame frame = transform::richTextFrameOf(makePassFrame(scheme));
-    const transform::PassResult result = transform::runOperate(in, out, request, frame, silentMonitor());
-    const PassReport report = reportOf(result);
-    if (result.outcome == transform::PassOutcome::Completed && result.reload) loadRich(out);
-    else if (report.shown) workspace_.messageBox(report.text, report.caption, Buttons::Ok, report.icon);
+    const PassFrame frame = makePassFrame(scheme);
+    takeOutput(transform::runOperate(in, out, request, frame, silentMonitor()), out, true);
   } catch (const AppError& e) {
     workspace_.messageBox(std::string(e.what()) + transform::kOperateErrorEnding, kAppTitle, Buttons::Ok,
                           Icon::Exclamation);

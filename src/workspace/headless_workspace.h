@@ -11,6 +11,7 @@
 #include "document/gap_text.h"
 #include "document/rtf_styling.h"
 #include "document/style_table.h"
+#include "platform/pass_result.h"
 #include "transform/operate.h"
 #include "workspace/command_dispatch.h"
 #include "workspace/workspace.h"
@@ -57,6 +58,9 @@ class HeadlessDocument : public WorkspaceDocument {
   const std::vector<long>& lineStarts() const;
   void textChanged(long at, long removed, std::string_view inserted);
   bool writeInput(const std::string& path);
+  // A completed run's output enters the document; any other outcome is told as the editor
+  // tells it.
+  void takeOutput(const PassResult& result, const std::string& path, bool rich);
 
   HeadlessWorkspace& workspace_;
   std::string fileName_;

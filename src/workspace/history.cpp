@@ -47,7 +47,7 @@ std::vector<std::string> HistoryLoad(const SettingsStore& store, const std::stri
 
 bool RecentListUpdate(SettingsStore& store, const std::string& name, bool fileExists) {
   if (!fileExists) return false;
-  const std::string prefix = "RecentFile";
+  const std::string prefix = kRecentFileKey;
   const auto sameFile = [](const std::string& a, const std::string& b) { return equalsIgnoreCase(a, b); };
   if (!closeGap(store, kRecentFiles, prefix, name, kRecentFileCount, sameFile)) {
     for (int i = kRecentFileCount - 1; i >= 1; --i) {
@@ -61,7 +61,7 @@ bool RecentListUpdate(SettingsStore& store, const std::string& name, bool fileEx
 
 std::vector<RecentEntry> RecentMenuEntries(const SettingsStore& store, bool documentWindow) {
   std::vector<RecentEntry> entries;
-  if (store.get(kRecentFiles, "RecentFile1").empty()) return entries;
+  if (readSetting(store, Setting::RecentFile1).empty()) return entries;
   const char* gap = documentWindow ? "  " : " ";
   int i = 0;
   for (const auto& [key, path] : store.all(kRecentFiles)) {

@@ -35,6 +35,15 @@ TEST(CliColorize, BothViewsMatchTheGoldenFiles) {
   EXPECT_EQ(readBytes(dir.file("codes.rtf")), readBytes(testData("sample.codes.rtf")));
 }
 
+// Code words right after one of their own kind (M3M8, T1T2, F100.F200.) are marked as well: the
+// search goes on from the end of each mark.
+TEST(CliColorize, CodeWordsSideBySideAreAllMarked) {
+  TempDir dir;
+  const auto r = runCli({"colorize", "--view", "codes", testData("markers.nc"), dir.file("codes.rtf")});
+  EXPECT_EQ(r.exitCode, 0) << r.err;
+  EXPECT_EQ(readBytes(dir.file("codes.rtf")), readBytes(testData("markers.codes.rtf")));
+}
+
 TEST(CliColorize, UsesAnyDataFileAndTheCommentOption) {
   TempDir dir;
   SchemeRecord mine = bundledSchemes()[3];

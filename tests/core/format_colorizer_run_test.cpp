@@ -31,10 +31,10 @@ const SchemeRecord& scheme() {
 TEST(ColorizerRun, WritesHeaderParagraphsAndTrailerWithCrLf) {
   TempDir dir;
   const std::string in = dir.write("TEMP2.TXT", "G1 X5\r\nX6\rY7");  // lone CR ends a line too
-  const ColorizeResult r = colorizeFile(scheme(), ColorizeView::Modes, in, dir.file("TEMP3.TXT"), silentMonitor());
-  ASSERT_EQ(r.outcome, ColorizeOutcome::Done);
-  EXPECT_EQ(r.linesWritten, 3);
-  EXPECT_EQ(r.backColour, scheme().backColour);
+  const PassResult r = colorizeFile(scheme(), ColorizeView::Modes, in, dir.file("TEMP3.TXT"), silentMonitor());
+  ASSERT_EQ(r.outcome, PassOutcome::Completed);
+  EXPECT_EQ(r.count, 3);
+  EXPECT_TRUE(r.reload) << "a completed run goes into the document";
   const PassFrame f = makePassFrame(scheme());
   const std::string g1 = f.attributes[0][kG01Mode] + " ";
   EXPECT_EQ(readBytes(dir.file("TEMP3.TXT")), f.header + "\r\n\\li200 " + g1 + "G1 X5\r\n\\par\\li200 " + g1 +
@@ -42,7 +42,7 @@ TEST(ColorizerRun, WritesHeaderParagraphsAndTrailerWithCrLf) {
 
   const std::string empty = dir.write("empty.txt", "");
   EXPECT_EQ(colorizeFile(scheme(), ColorizeView::Codes, empty, dir.file("e.rtf"), silentMonitor()).outcome,
-            ColorizeOutcome::Done);
+            PassOutcome::Completed);
   EXPECT_EQ(readBytes(dir.file("e.rtf")), f.header + "\r\n\\par}\r\n");
 }
 
@@ -50,31 +50,31 @@ TEST(ColorizerRun, RefusesBareLineFeedsAndIgnoresMissingInput) {
   TempDir dir;
   const std::string out = dir.file("TEMP3.TXT");
   const std::string in = dir.write("lf.txt", "G1 X1\nX2\n");
-  ColorizeResult r = colorizeFile(scheme(), ColorizeView::Modes, in, out, silentMonitor());
-  EXPECT_EQ(r.outcome, ColorizeOutcome::Refused);
-  EXPECT_EQ(r.message(), kJunkFilterMessage);
+  PassResult r = colorizeFile(scheme(), ColorizeView::Modes, in, out, silentMonitor());
+  EXPECT_EQ(r.outcome, PassOutcome::Refused);
+  EXPECT_EQ(r.message, kJunkFilterMessage);
   EXPECT_FALSE(std::filesystem::exists(out));
   r = colorizeFile(scheme(), ColorizeView::Modes, dir.file("none.txt"), out, silentMonitor());
-  EXPECT_EQ(r.outcome, ColorizeOutcome::NoInput);
-  EXPECT_EQ(colorizeFile(scheme(), ColorizeView::Modes, "", out, silentMonitor()).outcome, ColorizeOutcome::NoInput);
+  EXPECT_EQ(r.outcome, PassOutcome::NoInput);
+  EXPECT_EQ(colorizeFile(scheme(), ColorizeView::Modes, "", out, silentMonitor()).outcome, PassOutcome::NoInput);
   EXPECT_FALSE(std::filesystem::exists(out));
 }
 
 TEST(ColorizerRun, OutputThatCannotBeWrittenIsReportedAsAnError) {
   TempDir dir;
   const std::string in = dir.write("in.txt", "X1\r\n");
-  const ColorizeResult r =
+  const PassResult r =
       colorizeFile(scheme(), ColorizeView::Modes, in, dir.file("no/folder/out.rtf"), silentMonitor());
-  EXPECT_EQ(r.outcome, ColorizeOutcome::Failed);
-  EXPECT_EQ(r.message(), "The error 76 Path not found occurred during the creation of the formatted output file.");
+  EXPECT_EQ(r.outcome, PassOutcome::Failed);
+  EXPECT_EQ(r.message, "The error 76 Path not found occurred during the creation of the formatted output file.");
 }
 
 TEST(ColorizerRun, LongFilesShowProgressAboutAHundredTimes) {
   TempDir dir;
   const std::string in = dir.write("in.txt", program(250));
   RecordingMonitor m;
-  const ColorizeResult r = colorizeFile(scheme(), ColorizeView::Codes, in, dir.file("out.rtf"), m);
-  EXPECT_EQ(r.outcome, ColorizeOutcome::Done);
+  const PassResult r = colorizeFile(scheme(), ColorizeView::Codes, in, dir.file("out.rtf"), m);
+  EXPECT_EQ(r.outcome, PassOutcome::Completed);
   EXPECT_EQ(m.starts, std::vector<long>{250});
   ASSERT_EQ(m.values.size(), 125u);  // step 250 / 100 = 2
   EXPECT_EQ(m.values.front(), 2);
@@ -102,10 +102,10 @@ TEST(ColorizerRun, CancelLeavesTheOutputFileAsItWas) {
   const std::string out = dir.write("TEMP3.TXT", "previous output");
   RecordingMonitor m;
   m.cancelAfterReports = 3;
-  const ColorizeResult r = colorizeFile(scheme(), ColorizeView::Codes, dir.write("in.txt", program(500)), out, m);
-  EXPECT_EQ(r.outcome, ColorizeOutcome::Cancelled);
-  EXPECT_EQ(r.message(), "Operation canceled by user.");
-  EXPECT_EQ(r.linesWritten, 15);  // the third report, step 5
+  const PassResult r = colorizeFile(scheme(), ColorizeView::Codes, dir.write("in.txt", program(500)), out, m);
+  EXPECT_EQ(r.outcome, PassOutcome::Cancelled);
+  EXPECT_EQ(r.message, "Operation canceled by user.");
+  EXPECT_EQ(r.count, 15);  // the third report, step 5
   EXPECT_EQ(readBytes(out), "previous output");
   EXPECT_EQ(m.clears, 2);  // when the run starts and when it stops
   EXPECT_EQ(m.ends, 1);

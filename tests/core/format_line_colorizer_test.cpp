@@ -98,6 +98,24 @@ TEST(LineColorizerCodes, CodeTextsPlainAndNumbered) {
   EXPECT_EQ(odd("A1 A2"), "[c3] A1\\plain[P]  [c3] A2");
 }
 
+// After a mark the search goes on from the mark's end, so a code text right after another one
+// is marked too; two marks of one style side by side read as one.
+TEST(LineColorizerCodes, CodeTextSearchGoesOnFromTheEndOfEachMark) {
+  Lines m = codes({{"M", 0}});
+  EXPECT_EQ(m("MM"), "[c0] MM\\plain[P] ");
+  EXPECT_EQ(m("MMM M"), "[c0] MMM\\plain[P]  [c0] M\\plain[P] ");
+  Lines mm = codes({{"MM", 0}});
+  EXPECT_EQ(mm("MMM"), "[c0] MM\\plain[P] M");
+  EXPECT_EQ(mm("MMMM"), "[c0] MMMM\\plain[P] ");
+  Lines numbered = codes({{"M#", 0}, {"S#", 2}});
+  EXPECT_EQ(numbered("M3M8"), "[c0] M3M8\\plain[P] ");
+  EXPECT_EQ(numbered("S1200M3"), "[c2] S1200[c0] M3\\plain[P] ");
+  EXPECT_EQ(numbered("MM3"), "M[c0] M3\\plain[P] ");  // an M without a number is no hit
+  // Words of different texts side by side keep their own styles.
+  Lines two = codes({{"AB", 0}, {"C", 1}});
+  EXPECT_EQ(two("ABABC"), "[c0] ABAB[c1] C\\plain[P] ");
+}
+
 TEST(LineColorizerComments, FirstCommentOverridesMarksInsideIt) {
   Lines run = codes({{"M#", 0}});
   EXPECT_EQ(run("(COMMENT X1)"), "[10] (COMMENT X1)\\plain[P] ");

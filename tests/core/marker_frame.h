@@ -3,12 +3,19 @@
 // lines stay readable.
 #include <string>
 
-#include "transform/rich_text_frame.h"
+#include "format/pass_frame.h"
 
 namespace lathwick::test {
 
-inline transform::RichTextFrame markerFrame(std::string header, std::string trailer, long indentTwips = 0) {
-  return {std::move(header), std::move(trailer), indentTwips, "<", ">", "(", ")"};
+inline PassFrame markerFrame(std::string header, std::string trailer, long indentTwips = 0) {
+  PassFrame frame;
+  frame.header = std::move(header);
+  frame.trailer = std::move(trailer);
+  frame.indentTwips = indentTwips;
+  frame.highlightStart = "<";
+  frame.highlightEnd = ">";
+  frame.comment = {'(', ')', true};
+  return frame;
 }
 
 }  // namespace lathwick::test

@@ -1,14 +1,31 @@
 // The record of which stretches of a document keep the styles they were loaded with.
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
+
 #include "document/style_pieces.h"
 
 using lathwick::StylePieces;
 
 namespace {
-// Edited stretches read back as 'e'.
+// The document's styles put together from its stretches: loaded ones from `loaded` (empty: all
+// style 0), edited ones as 'e'.
 std::string assembled(const StylePieces& pieces, std::string_view loaded, std::size_t length) {
-  return pieces.assemble(loaded, length, [](std::size_t, std::size_t n, char* out) { std::fill(out, out + n, 'e'); });
+  std::string out;
+  std::size_t at = 0;
+  for (const StylePieces::Stretch& s : pieces.stretches(length)) {
+    EXPECT_EQ(s.at, at);
+    at += s.count;
+    if (!s.loaded) {
+      out.append(s.count, 'e');
+    } else if (loaded.empty()) {
+      out.append(s.count, '\0');
+    } else {
+      out.append(loaded.substr(s.loadedStart, s.count));
+    }
+  }
+  return out;
 }
 }  // namespace
 

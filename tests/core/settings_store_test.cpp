@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
+#include "platform/bytes.h"
 #include "platform/settings_store.h"
 #include "platform/settings_table.h"
 #include "support/temp_dir.h"
@@ -86,4 +88,28 @@ TEST(SettingsTable, FrameSettingsRoundTripAsWordsAndNumbers) {
   EXPECT_TRUE(back.autoFormat);
   EXPECT_EQ(back.windowState, 2);
   EXPECT_EQ(back.left, 1234.5);
+}
+
+TEST(SettingsTable, EverySettingHasAKeyOfItsOwn) {
+  // Two names stored under one key would overwrite each other.
+  std::set<std::string> keys;
+  for (const lathwick::SettingRow& row : lathwick::kSettingsTable)
+    EXPECT_TRUE(keys.insert(lathwick::asciiLower(std::string(row.section) + "/" + row.key)).second)
+        << row.section << " " << row.key;
+}
+
+TEST(SettingsTable, ValuesThatDoNotReadTakeTheirDefaults) {
+  TempDir dir;
+  SettingsStore s(dir.file("s.ini"));
+  s.save("Startup", "Toolbar", "perhaps");
+  s.save("Startup", "top", "high");
+  s.save("Startup", "search", "all");
+  s.save("Numbering", "Method", "7");
+  const auto f = lathwick::readFrameSettings(s, 1000, 1000, "/x");
+  EXPECT_TRUE(f.toolbar);
+  EXPECT_EQ(f.top, 50);
+  EXPECT_EQ(lathwick::readSearchFlags(s), 0);
+  EXPECT_EQ(lathwick::readNumberingSettings(s).method, 2);
+  s.save("Numbering", "Method", "0");
+  EXPECT_EQ(lathwick::readNumberingSettings(s).method, 0);
 }

@@ -5,6 +5,7 @@
 #include "transform/junk_filter.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
 
 TEST(JunkFilter, DropsTheLeaderTabsControlCharactersAndHighBytesAndTurnsLineFeedsIntoCrLf) {
   EXPECT_EQ(junkFilter("\n\n\n%\nN10 G00\n"), "%\r\nN10 G00\r\n");

@@ -14,9 +14,11 @@
 #include <vector>
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
+using lathwick::PassFrame;
 
 namespace {
-RichTextFrame frame() { return lathwick::test::markerFrame("H", "T"); }
+PassFrame frame() { return lathwick::test::markerFrame("H", "T"); }
 
 std::string operated(const std::string& raw, const std::string& addresses, char op, double operand,
                      const std::string& format = "##0.0###", bool exclude = false, long* count = nullptr) {

@@ -10,6 +10,8 @@
 #include "transform/renumber.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
+using lathwick::PassResult;
 using Lines = std::vector<std::string>;
 
 namespace {

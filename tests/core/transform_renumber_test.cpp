@@ -9,6 +9,7 @@
 #include "transform/renumber.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
 using Lines = std::vector<std::string>;
 
 namespace {

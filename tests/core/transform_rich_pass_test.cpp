@@ -11,13 +11,16 @@
 #include "transform/rich_pass.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
+using lathwick::PassResult;
+using lathwick::PassFrame;
 using lathwick::test::RecordingMonitor;
 using lathwick::test::TempDir;
 
 namespace {
 
 // Trailing blanks on header and trailer, which the pass must drop.
-RichTextFrame testFrame() { return lathwick::test::markerFrame("{\\rtf1 H}   ", "\\par}  ", 400); }
+PassFrame testFrame() { return lathwick::test::markerFrame("{\\rtf1 H}   ", "\\par}  ", 400); }
 
 // Upper-cases the line and counts one change per line that had a lower-case letter, marking
 // its first character.

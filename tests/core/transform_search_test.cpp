@@ -9,10 +9,12 @@
 #include "transform/search_pass.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
+using lathwick::PassFrame;
 using lathwick::test::TempDir;
 
 namespace {
-RichTextFrame frame() { return lathwick::test::markerFrame("{\\rtf1 H}", "\\par}"); }
+PassFrame frame() { return lathwick::test::markerFrame("{\\rtf1 H}", "\\par}"); }
 
 // One line through the replace work, as the pass does it (escaped first).
 std::string replaced(const std::string& raw, const std::string& find, const std::string& repl, int flags,

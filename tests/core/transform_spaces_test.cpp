@@ -8,6 +8,7 @@
 #include "transform/spaces.h"
 
 using namespace lathwick::transform;
+using lathwick::PassOutcome;
 using Lines = std::vector<std::string>;
 
 namespace {

@@ -42,6 +42,8 @@ class FakeDocument : public gui::TransformTarget {
   std::string reloaded;  // the bytes of the last file loaded
   bool fileUndoable = false;
   bool bareLineFeeds = false;  // save with LF alone, as a file fresh from a serial link
+  bool saveFails = false;      // the input work file cannot be written
+  bool reloadFails = false;    // the reload (or the undo snapshot before it) goes wrong
   TempDir folder;
 
   // Selects from the start of 1-based line `first` to the end of line `last`.
@@ -70,13 +72,14 @@ class FakeDocument : public gui::TransformTarget {
   }
   long lineCount() const override { return lineFromChar(textLength()) + 1; }
   bool savePlainText(const std::string& path) override {
+    if (saveFails) return false;
     std::string crlf;
     const std::string brk = bareLineFeeds ? "\n" : "\r\n";
     for (char c : text) crlf += c == '\n' ? brk : std::string(1, c);
     writeFile(path, crlf + brk);
     return true;
   }
-  void reloadDocument(const std::string& path, gui::ReloadFormat format) override {
+  bool reloadDocument(const std::string& path, gui::ReloadFormat format) override {
     ++reloads;
     lastFormat = format;
     reloaded = readBytes(path);
@@ -86,6 +89,7 @@ class FakeDocument : public gui::TransformTarget {
         if (c != '\r') text += c;
       if (!text.empty() && text.back() == '\n') text.pop_back();
     }
+    return !reloadFails;
   }
   void setFileUndoable(bool undoable) override { fileUndoable = undoable; }
   void undo() override { ++undos; }

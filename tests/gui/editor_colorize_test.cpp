@@ -94,8 +94,8 @@ TEST_F(ColorizeTest, EscOrAClickOnTheMessagePanelCancelsALongRunAndLeavesTheDocu
   trigger("mnuModal", 0);
   ASSERT_TRUE(pressed);
   ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, kCancelMessage);
-  EXPECT_EQ(dialogs.messages[0].caption, kCancelTitle);
+  EXPECT_EQ(dialogs.messages[0].text, kCancelledMessage);
+  EXPECT_EQ(dialogs.messages[0].caption, kCancelledTitle);
   EXPECT_EQ(e->rtfTextBox().text(), text);
   EXPECT_EQ(lineStyles(e), before);
   EXPECT_FALSE(e->FileUndoable());
@@ -106,7 +106,7 @@ TEST_F(ColorizeTest, EscOrAClickOnTheMessagePanelCancelsALongRunAndLeavesTheDocu
   QTimer::singleShot(0, frame.get(), [&] { lathwick::test::mouseClick(frame->statusPanels().panel("Stat"), Qt::LeftButton); });
   trigger("mnuModal", 1);
   ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, kCancelMessage);
+  EXPECT_EQ(dialogs.messages[0].text, kCancelledMessage);
   EXPECT_FALSE(e->FileUndoable());
   // The next run starts with the flag cleared and completes.
   trigger("mnuModal", 0);

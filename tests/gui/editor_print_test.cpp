@@ -141,8 +141,12 @@ TEST_F(PrintTest, AMissingPrintProgramIsAskedForOnceAndThenUsed) {
   EXPECT_EQ(dialogs.requests.size(), opened + 2);
   trigger("mnuPrintAsRtf");
   EXPECT_EQ(dialogs.requests.size(), opened + 2) << "found: not asked again";
-  for (int i = 0; i < 200 && !std::filesystem::exists(seen); ++i) QThread::msleep(10);
-  const std::string rtf = readBytes(seen);
+  // The program runs on its own: the file may be there before cp has finished writing it.
+  std::string rtf;
+  for (int i = 0; i < 500 && rtf.find("N3 G01 X3") == std::string::npos; ++i) {
+    QThread::msleep(10);
+    if (std::filesystem::exists(seen)) rtf = readBytes(seen);
+  }
   EXPECT_NE(rtf.find("part.nc  "), std::string::npos) << "the heading is in the print file";
   EXPECT_NE(rtf.find("N3 G01 X3"), std::string::npos);
   EXPECT_EQ(own.calls, 0);

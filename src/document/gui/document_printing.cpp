@@ -12,13 +12,14 @@
 #include "document/print_pages.h"
 #include "document/rtf_reader.h"
 #include "platform/gui/dialogs.h"
+#include "platform/pass_result.h"
+#include "platform/settings_table.h"
 #include "document/gui/rich_text_box.h"
 
 namespace lathwick::gui {
 
 namespace {
 
-constexpr const char* kReady = "Press F1 for help.";
 constexpr const char* kRichPrintError = "Printing Error 482; Printer error";
 
 std::string local(const QString& s) { return s.toLocal8Bit().toStdString(); }
@@ -72,7 +73,7 @@ void printWithProgram(frmEditor& window, const PrintContext& context, bool selec
     FileRequest request;
     request.title = kFindPrinterTitle;
     request.filter = kPrinterFilter;
-    request.fileName = kDefaultPrintProgram;
+    request.fileName = settingDefault(Setting::PrintProgram);
     if (const auto chosen = dialogs().chooseFile(request))
       context.storePrintProgram(*chosen);
     else
@@ -88,7 +89,9 @@ void printWithProgram(frmEditor& window, const PrintContext& context, bool selec
 }  // namespace
 
 bool usesPrintProgram(const std::string& setting) {
-  return !setting.empty() && QString::fromLocal8Bit(setting.c_str()).compare(kDefaultPrintProgram, Qt::CaseInsensitive) != 0;
+  // Left at its default, the setting means the editor prints the rich text itself.
+  const QString byDefault = QString::fromLocal8Bit(settingDefault(Setting::PrintProgram).c_str());
+  return !setting.empty() && QString::fromLocal8Bit(setting.c_str()).compare(byDefault, Qt::CaseInsensitive) != 0;
 }
 
 void PrintPlain(frmEditor& window, const PrintContext& context) {
@@ -104,7 +107,7 @@ void PrintPlain(frmEditor& window, const PrintContext& context) {
   };
   if (!listingPrinter().print(layout, QString::fromLocal8Bit(fileName.c_str())))
     dialogs().message(kPrintProblemMessage, "", Buttons::Ok, Icon::None);
-  context.statusText(kReady);
+  context.statusText(kReadyStatus);
 }
 
 void PrintFile(frmEditor& window, const PrintContext& context) {
@@ -124,7 +127,7 @@ void PrintFile(frmEditor& window, const PrintContext& context) {
     if (!listingPrinter().print(layout, QString::fromLocal8Bit(window.filename().c_str())))
       dialogs().message(kRichPrintError, "", Buttons::Ok, Icon::None);
   }
-  context.statusText(kReady);
+  context.statusText(kReadyStatus);
 }
 
 }  // namespace lathwick::gui

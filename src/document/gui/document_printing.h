@@ -19,7 +19,6 @@ struct PrintContext {
   std::uint32_t paperColour = 0xFFFFFF;                 // the scheme's background colour
 };
 
-inline constexpr const char* kDefaultPrintProgram = "Wordpad";
 inline constexpr const char* kFindPrinterTitle = "Find Printer Program";
 inline constexpr const char* kPrinterFilter = "Program File (*)|*";
 inline constexpr const char* kPrinterNotLocated = "Wordpad was not located.\nPlease try to print again and then locate Wordpad.exe";

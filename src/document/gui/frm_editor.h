@@ -8,8 +8,8 @@
 
 #include "document/gui/reload_document.h"
 #include "document/gui/text_control.h"
+#include "transform/gui/document_pass.h"
 #include "transform/gui/transform_target.h"
-#include "transform/pass_result.h"
 #include "workspace/workspace.h"
 
 namespace lathwick {
@@ -99,7 +99,7 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
   long lineFromChar(long position) const override;
   long lineCount() const override;
   bool savePlainText(const std::string& path) override;
-  void reloadDocument(const std::string& path, ReloadFormat format) override;
+  bool reloadDocument(const std::string& path, ReloadFormat format) override;
   void undo() override { Undo(); }
   void setStatusText(const std::string& text) override;
   PassFrame passFrame() const override;
@@ -130,7 +130,8 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
   void onTextChanged();
   void onSelectionChanged();
   bool handleAltKey(int key);
-  void showPassResult(const transform::PassResult& result);
+  // Runs a pass of the Options menu or a colour view through the frame's progress form.
+  void runMenuPass(const DocumentPass& pass, ReloadFormat output, std::optional<PassKind> notify);
 
   EditorHost& frame_;
   int tag_;

@@ -10,8 +10,6 @@
 #include "transform/junk_filter.h"
 #include "transform/spaces.h"
 #include "transform/gui/document_pass.h"
-#include "transform/gui/pass_observer.h"
-#include "transform/gui/qt_pass_monitor.h"
 
 namespace lathwick::gui {
 
@@ -33,15 +31,15 @@ long frmEditor::lineLength(long line) const { return text_->lineLength(static_ca
 
 bool frmEditor::savePlainText(const std::string& path) {
   try {
-    text_->saveFile(path, TextKind::Plain);
+    text_->saveFile(path, TextKind::Plain, Durability::Scratch);  // the input work file of a pass
     return true;
   } catch (const std::exception&) {
     return false;
   }
 }
 
-void frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
-  reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
+bool frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
+  return reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
 }
 
 void frmEditor::scriptEnded() {
@@ -80,54 +78,31 @@ void frmEditor::replaceSelection(std::string_view text) {
   text_->setSelection(start, static_cast<int>(text.size()));
 }
 
-void frmEditor::showPassResult(const transform::PassResult& result) {
-  using transform::PassOutcome;
-  setStatusText(transform::kStatusReady);
-  switch (result.outcome) {
-    case PassOutcome::Completed:
-      if (result.reload) {
-        reloadDocument(outputWorkFile(), TextKind::Plain);
-        setFileUndoable(true);
-        notifyPassDone(*this, PassKind::KeepsMotion);
-      }
-      break;
-    case PassOutcome::NoInput:  // the input could not be written or read: nothing is said
-    case PassOutcome::Cancelled:
-    case PassOutcome::Refused:
-    case PassOutcome::Failed:
-      reportPassOutcome(result);
-      break;
-  }
+void frmEditor::runMenuPass(const DocumentPass& pass, ReloadFormat output, std::optional<PassKind> notify) {
+  PassRun run;
+  run.parent = frame_.frameWidget();
+  run.output = output;
+  run.notify = notify;
+  run.running = [this](bool running) { frame_.setPassRunning(running); };
+  runDocumentPass(*this, run, pass);
 }
-
-namespace {
-// Runs a plain pass of the window's document from the input to the output work file.
-template <typename Pass>
-transform::PassResult runPlainPass(frmEditor& window, EditorHost& frame, Pass pass) {
-  if (!window.savePlainText(window.inputWorkFile())) {
-    transform::PassResult none;
-    none.outcome = transform::PassOutcome::NoInput;
-    return none;
-  }
-  BusyCursor busy;
-  frame.setPassRunning(true);
-  QtPassMonitor monitor(nullptr, [&window](const std::string& text) { window.setStatusText(text); }, frame.frameWidget());
-  transform::PassResult result = pass(monitor);
-  frame.setPassRunning(false);
-  return result;
-}
-}  // namespace
 
 void frmEditor::AddSpaces() {
-  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
-    return transform::runAddSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
-  }));
+  const std::string comment = commentStartText();
+  runMenuPass(
+      [&comment](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return transform::runAddSpaces(in, out, comment, monitor);
+      },
+      ReloadFormat::Plain, PassKind::KeepsMotion);
 }
 
 void frmEditor::RemoveSpaces() {
-  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
-    return transform::runRemoveSpaces(inputWorkFile(), outputWorkFile(), commentStartText(), monitor);
-  }));
+  const std::string comment = commentStartText();
+  runMenuPass(
+      [&comment](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return transform::runRemoveSpaces(in, out, comment, monitor);
+      },
+      ReloadFormat::Plain, PassKind::KeepsMotion);
 }
 
 void frmEditor::runPass(DocumentPassKind pass) {
@@ -142,9 +117,11 @@ void frmEditor::runPass(DocumentPassKind pass) {
 }
 
 void frmEditor::JunkFilter() {
-  showPassResult(runPlainPass(*this, frame_, [this](PassMonitor& monitor) {
-    return transform::runJunkFilter(inputWorkFile(), outputWorkFile(), monitor);
-  }));
+  runMenuPass(
+      [](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return transform::runJunkFilter(in, out, monitor);
+      },
+      ReloadFormat::Plain, PassKind::KeepsMotion);
 }
 
 }  // namespace lathwick::gui

@@ -11,7 +11,6 @@
 #include <algorithm>
 
 #include "document/rtf_reader.h"
-#include "document/rtf_source_file.h"
 #include "document/rtf_writer.h"
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
@@ -100,13 +99,6 @@ std::string RichTextBox::textBytes() const {
   const long length = textLength();
   const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
   return p ? std::string(p, static_cast<std::size_t>(length)) : std::string();
-}
-
-void RichTextBox::setTextBytes(std::string_view text) {
-  resetStyles();
-  indentTwips_ = defaultIndentTwips_;
-  applyIndent();
-  replaceAllText(text, DocumentStyling{});
 }
 
 // ---- selection ----------------------------------------------------------------------------
@@ -294,10 +286,14 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 // the format of the character before it; both are applied once the insertion is done.
 void RichTextBox::onModified(int position, int type, const char*, int length, int, int, int, int, int, int) {
   if (loading_) return;
-  if (loadedStyling_) {
+  if (loadedKnown_) {
     if (type & SC_MOD_BEFOREDELETE) pieces_.erase(static_cast<std::size_t>(position), static_cast<std::size_t>(length));
     if (type & SC_MOD_BEFOREINSERT) pieces_.insert(static_cast<std::size_t>(position), static_cast<std::size_t>(length));
-    if (pieces_.pieceCount() > kMaxStylePieces) loadedStyling_.reset();
+    if (pieces_.pieceCount() > kMaxStylePieces) {
+      loadedKnown_ = false;
+      loadedRuns_.clear();
+      loadedStrikeouts_.clear();
+    }
   }
   if ((type & SC_MOD_BEFOREDELETE) && !(type & SC_PERFORMED_UNDO) && length > 0) {
     deleted_.push_back({position, length, stylesOf(position, position + length),
@@ -365,98 +361,6 @@ void RichTextBox::paintStrikeouts(long offset, const std::vector<TextRange>& ran
     SendScintilla(SCI_SETINDICATORVALUE, static_cast<long>(colourOf(colour) | SC_INDICVALUEBIT));
     SendScintilla(SCI_INDICATORFILLRANGE, start, end - start);
   }
-}
-
-// ---- loading and saving -------------------------------------------------------------------
-void RichTextBox::replaceAllText(std::string_view text, DocumentStyling styling) {
-  loading_ = true;
-  pending_.clear();
-  deleted_.clear();
-  loadedStyling_.reset();
-  SendScintilla(SCI_SETUNDOCOLLECTION, 0L);
-  SendScintilla(SCI_CLEARALL);
-  SendScintilla(SCI_ALLOCATE, static_cast<long>(text.size() + 1));
-  SendScintilla(SCI_APPENDTEXT, static_cast<uintptr_t>(text.size()), text.data());
-  if (!styling.styles.empty()) {
-    defineNewStyles();
-    SendScintilla(SCI_STARTSTYLING, 0L, 0L);
-    SendScintilla(SCI_SETSTYLINGEX, static_cast<uintptr_t>(styling.styles.size()), styling.styles.data());
-    paintStrikeouts(0, styling.strikeouts);
-  }
-  SendScintilla(SCI_EMPTYUNDOBUFFER);
-  SendScintilla(SCI_SETUNDOCOLLECTION, 1L);
-  SendScintilla(SCI_SETSAVEPOINT);
-  loadedStyling_ = std::move(styling);
-  pieces_.reset(text.size());
-  loading_ = false;
-  emit textModified();
-}
-
-void RichTextBox::loadRtf(std::string_view rtf, std::string_view finalBreak) {
-  RtfDocument doc = readRtf(rtf);
-  resetStyles();
-  DocumentStyling styling = styleDocument(doc, table_);
-  const bool endsInBreak = !doc.text.empty() && (doc.text.back() == '\n' || doc.text.back() == '\r');
-  if (!finalBreak.empty() && !doc.text.empty() && !endsInBreak) {
-    doc.text += finalBreak;
-    if (!styling.styles.empty()) styling.styles.append(finalBreak.size(), styling.styles.back());
-  }
-  indentTwips_ = doc.indentTwips;
-  applyIndent();
-  replaceAllText(doc.text, std::move(styling));
-}
-
-void RichTextBox::loadFile(const std::string& path, FileKind kind, std::string_view finalBreak) {
-  const SourceFile file(path);
-  if (kind == FileKind::RichText) {
-    loadRtf(file.bytes(), finalBreak);
-  } else {
-    setTextBytes(file.bytes());
-  }
-}
-
-std::string_view RichTextBox::characterView() const {
-  const long length = textLength();
-  const auto* p = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
-  return p ? std::string_view(p, static_cast<std::size_t>(length)) : std::string_view();
-}
-
-// The whole document as rich text. Styles are taken from the load where the text is unedited
-// and read back from the control only for the edited stretches.
-void RichTextBox::writeWholeRtf(const std::function<void(std::string_view)>& sink) const {
-  const long length = textLength();
-  if (loadedStyling_ && pieces_.unchanged(static_cast<std::size_t>(length))) {
-    writeRtf({characterView(), loadedStyling_->styles, &loadedStyling_->strikeouts, indentTwips_}, table_, sink);
-    return;
-  }
-  std::string styles;
-  if (loadedStyling_) {
-    styles = pieces_.assemble(loadedStyling_->styles, static_cast<std::size_t>(length),
-                              [this](std::size_t at, std::size_t count, char* out) {
-                                const std::string part = stylesOf(static_cast<long>(at), static_cast<long>(at + count));
-                                std::copy(part.begin(), part.end(), out);
-                              });
-  } else {
-    styles = stylesOf(0, length);
-  }
-  const std::vector<TextRange> strikes = strikeoutsOf(0, length);
-  writeRtf({characterView(), styles, &strikes, indentTwips_}, table_, sink);
-}
-
-std::string RichTextBox::rtf() const {
-  std::string rtf;
-  writeWholeRtf([&rtf](std::string_view piece) { rtf += piece; });
-  return rtf;
-}
-
-void RichTextBox::saveFile(const std::string& path, FileKind kind, Durability durability) const {
-  if (kind == FileKind::PlainText) {
-    writeFileAtomically(path, characterView(), durability);
-    return;
-  }
-  AtomicFileWriter file(path, durability);
-  writeWholeRtf([&file](std::string_view piece) { file.write(piece); });
-  file.commit();
 }
 
 std::string RichTextBox::stylesOf(long start, long end) const {

@@ -10,13 +10,13 @@
 #include <QCursor>
 #include <QPoint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "document/rtf_styling.h"
 #include "document/style_pieces.h"
+#include "document/style_runs.h"
 #include "platform/atomic_file.h"
 #include "document/style_table.h"
 
@@ -83,8 +83,9 @@ class RichTextBox : public QsciScintilla {
   void undo() override;
 
   // ---- files ------------------------------------------------------------------------------
-  // Both throw AppError when the file cannot be read or written; a failed load leaves the
-  // control as it was.
+  // Both throw AppError when the file cannot be read or written. A file that cannot be opened
+  // leaves the control as it was; a file is read and shown a piece at a time, so one that fails
+  // part-way through leaves what was read.
   // `finalBreak` ends a rich text that comes without a line break at its end (a pass's output
   // has none after its last line), so viewing keeps the break the document had.
   void loadFile(const std::string& path, FileKind kind, std::string_view finalBreak = {});
@@ -129,7 +130,7 @@ class RichTextBox : public QsciScintilla {
                   int foldNow, int foldPrev, int token, int annotationLinesAdded);
   void flushPendingFormats();
   void applyPending(const PendingFormat& pending);
-  void replaceAllText(std::string_view text, DocumentStyling styling);
+  friend class RichTextLoader;  // fills the control as a file is read (rich_text_loading.cpp)
   void resetStyles();
   void defineStyle(int style);
   void defineNewStyles();
@@ -148,9 +149,11 @@ class RichTextBox : public QsciScintilla {
   bool loading_ = false;
   std::vector<DeletedFormats> deleted_;
   std::vector<PendingFormat> pending_;
-  // The styling of the last load (empty styles: all style 0) and, while edits stay few, which
-  // stretches of the document still have it: saving then reads back only edited stretches.
-  std::optional<DocumentStyling> loadedStyling_;
+  // The styles of the last load, as runs, and, while edits stay few, which stretches of the
+  // document still have them: saving then reads back only edited stretches.
+  bool loadedKnown_ = false;
+  StyleRuns loadedRuns_;
+  std::vector<TextRange> loadedStrikeouts_;
   StylePieces pieces_;
   bool flushQueued_ = false;
   QCursor indentPointer_;

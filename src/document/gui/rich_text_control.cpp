@@ -68,7 +68,9 @@ void RichTextControl::loadFile(const std::string& path, TextKind kind) {
   emit selectionChanged();
 }
 
-void RichTextControl::saveFile(const std::string& path, TextKind kind) const { box_->saveFile(path, kindOf(kind)); }
+void RichTextControl::saveFile(const std::string& path, TextKind kind, Durability durability) const {
+  box_->saveFile(path, kindOf(kind), durability);
+}
 
 bool RichTextControl::canUndo() const { return box_->canUndo(); }
 void RichTextControl::undo() { box_->undo(); }

@@ -33,7 +33,7 @@ class RichTextControl : public TextControl {
   int firstVisibleLine() const override;
   void scrollLines(int lines) override;
   void loadFile(const std::string& path, TextKind kind) override;
-  void saveFile(const std::string& path, TextKind kind) const override;
+  void saveFile(const std::string& path, TextKind kind, Durability durability) const override;
   bool supportsRichText() const override { return true; }
   bool canUndo() const override;
   void undo() override;

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/atomic_file.h"
+
 class QWidget;
 
 namespace lathwick::gui {
@@ -43,9 +45,9 @@ class TextControl : public QObject {
   virtual void scrollLines(int lines) = 0;          // positive scrolls down
 
   // Both throw AppError with a description fit for the user; a failed save leaves the text and
-  // the file on disk untouched.
+  // the file on disk untouched. Work files are saved Durability::Scratch (not flushed to disk).
   virtual void loadFile(const std::string& path, TextKind kind) = 0;
-  virtual void saveFile(const std::string& path, TextKind kind) const = 0;
+  virtual void saveFile(const std::string& path, TextKind kind, Durability durability = Durability::Durable) const = 0;
   virtual bool supportsRichText() const = 0;
 
   virtual bool canUndo() const = 0;

@@ -49,18 +49,7 @@ QAction* frmEasyText::menuAction(const char* object, const char* caption, void (
 }
 
 void frmEasyText::buildControls() {
-  auto* bar = new QMenuBar(this);
-  QMenu* file = bar->addMenu(QStringLiteral("&File"));
-  mnuNew_ = menuAction("mnuNew", "&New", &frmEasyText::onNew);
-  mnuSave_ = menuAction("mnuSave", "&Save", &frmEasyText::onSave);
-  mnuDelete_ = menuAction("mnuDelete", "&Delete", &frmEasyText::onDelete);
-  mnuExit_ = new QAction(QStringLiteral("E&xit"), this);
-  mnuExit_->setObjectName(QStringLiteral("mnuExit"));
-  connect(mnuExit_, &QAction::triggered, this, &QWidget::close);
-  file->addActions({mnuNew_, mnuSave_, mnuDelete_});
-  file->addSeparator();
-  file->addAction(mnuExit_);
-
+  QMenuBar* bar = makeMenu();
   cboFileName_ = new QComboBox(this);
   cboFileName_->setObjectName(QStringLiteral("cboFileName"));
   auto* category = new QLabel(QStringLiteral("Category:"), this);
@@ -88,6 +77,35 @@ void frmEasyText::buildControls() {
   layout->addWidget(lstSections_, 1, 0);
   layout->addWidget(txtEdit_, 1, 1);
   layout->setColumnStretch(1, 2);
+  layout->addLayout(makeButtonRow(), 2, 0, 1, 2);
+  resize(620, 380);
+
+  setSnippetCommands(false);
+  mnuNew_->setEnabled(false);
+  connect(cboFileName_, &QComboBox::activated, this, &frmEasyText::loadCategory);
+  connect(lstSections_, &QListWidget::itemClicked, this, &frmEasyText::onSectionChosen);
+  connect(cmdInsert_, &QPushButton::clicked, this, &frmEasyText::onInsert);
+  connect(cmdCopy_, &QPushButton::clicked, this, &frmEasyText::onCopy);
+  connect(cmdExit_, &QPushButton::clicked, this, &frmEasyText::close);
+}
+
+QMenuBar* frmEasyText::makeMenu() {
+  auto* bar = new QMenuBar(this);
+  QMenu* file = bar->addMenu(QStringLiteral("&File"));
+  mnuNew_ = menuAction("mnuNew", "&New", &frmEasyText::onNew);
+  mnuSave_ = menuAction("mnuSave", "&Save", &frmEasyText::onSave);
+  mnuDelete_ = menuAction("mnuDelete", "&Delete", &frmEasyText::onDelete);
+  mnuExit_ = new QAction(QStringLiteral("E&xit"), this);
+  mnuExit_->setObjectName(QStringLiteral("mnuExit"));
+  connect(mnuExit_, &QAction::triggered, this, &QWidget::close);
+  file->addActions({mnuNew_, mnuSave_, mnuDelete_});
+  file->addSeparator();
+  file->addAction(mnuExit_);
+  return bar;
+}
+
+// The menu's New, Save and Delete as buttons, then Insert, Copy and Exit.
+QLayout* frmEasyText::makeButtonRow() {
   auto* buttons = new QHBoxLayout;
   for (QAction* action : {mnuNew_, mnuSave_, mnuDelete_}) {
     auto* tool = new QToolButton(this);
@@ -100,16 +118,7 @@ void frmEasyText::buildControls() {
     b->setAutoDefault(false);
     buttons->addWidget(b);
   }
-  layout->addLayout(buttons, 2, 0, 1, 2);
-  resize(620, 380);
-
-  setSnippetCommands(false);
-  mnuNew_->setEnabled(false);
-  connect(cboFileName_, &QComboBox::activated, this, &frmEasyText::loadCategory);
-  connect(lstSections_, &QListWidget::itemClicked, this, &frmEasyText::onSectionChosen);
-  connect(cmdInsert_, &QPushButton::clicked, this, &frmEasyText::onInsert);
-  connect(cmdCopy_, &QPushButton::clicked, this, &frmEasyText::onCopy);
-  connect(cmdExit_, &QPushButton::clicked, this, &frmEasyText::close);
+  return buttons;
 }
 
 void frmEasyText::showRemembered() {

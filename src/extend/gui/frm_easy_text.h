@@ -15,7 +15,9 @@ class WorkspaceDocument;
 
 class QAction;
 class QComboBox;
+class QLayout;
 class QListWidget;
+class QMenuBar;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -40,6 +42,8 @@ class frmEasyText : public QDialog {
 
  private:
   void buildControls();
+  QMenuBar* makeMenu();
+  QLayout* makeButtonRow();
   QAction* menuAction(const char* object, const char* caption, void (frmEasyText::*slot)());
   void loadCategory(int comboIndex);
   void fillSections();

@@ -14,8 +14,8 @@
 #include "extend/gui/toolpath_setup.h"
 #include "extend/gui/toolpath_view.h"
 #include "extend/toolpath/toolpath_text.h"
-#include "format/colorizer.h"
 #include "platform/gui/help_key.h"
+#include "platform/pass_result.h"
 #include "transform/gui/qt_pass_monitor.h"
 #include "workspace/toolpath_reading.h"
 

@@ -86,27 +86,16 @@ struct Token {
   bool number;
   int value;
   std::string word;
-  char sep;  // separator that followed: '/', '-', ':', ',', ' ' or 0
+  char sep;    // separator that followed: '/', '-', ':', ',', ' ' or 0
+  int digits;  // how many digits a number was written with
 };
 
-int monthFromName(const std::string& w) {
-  if (w.size() < 3) return 0;
-  for (int i = 0; i < 12; ++i) {
-    std::string full = kMonthNames[i];
-    if (w.size() <= full.size() && equalsIgnoreCase(full.substr(0, w.size()), w)) return i + 1;
-  }
-  return 0;
-}
+bool isLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
-int expandYear(int y, int digits) {
-  if (digits <= 2) return y < 30 ? 2000 + y : 1900 + y;
-  return y;
-}
-}  // namespace
-
-std::optional<double> parseDateText(std::string_view text) {
+// The text as numbers and words with the separators after them; empty for a character no date
+// or time has.
+std::optional<std::vector<Token>> tokenize(std::string_view text) {
   std::vector<Token> toks;
-  std::vector<int> digitsCount;
   size_t i = 0;
   while (i < text.size()) {
     const char c = text[i];
@@ -121,91 +110,132 @@ std::optional<double> parseDateText(std::string_view text) {
         ++n, ++i;
       }
       if (n > 5) return std::nullopt;
-      toks.push_back({true, v, {}, 0});
-      digitsCount.push_back(n);
+      toks.push_back({true, v, {}, 0, n});
     } else if (c == '/' || c == '-' || c == ':' || c == '.') {
       if (toks.empty() || toks.back().sep != 0) return std::nullopt;
       toks.back().sep = c;
       ++i;
-    } else if ((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')) {
+    } else if (isLetter(c)) {
       std::string w;
-      while (i < text.size() && ((text[i] >= 'A' && text[i] <= 'Z') || (text[i] >= 'a' && text[i] <= 'z'))) w += text[i++];
-      toks.push_back({false, 0, w, 0});
-      digitsCount.push_back(0);
+      while (i < text.size() && isLetter(text[i])) w += text[i++];
+      toks.push_back({false, 0, w, 0, 0});
     } else {
       return std::nullopt;
     }
   }
-  if (toks.empty()) return std::nullopt;
-  // Split into date numbers, time numbers and words.
+  return toks;
+}
+
+int monthFromName(const std::string& w) {
+  if (w.size() < 3) return 0;
+  for (int i = 0; i < 12; ++i) {
+    std::string full = kMonthNames[i];
+    if (w.size() <= full.size() && equalsIgnoreCase(full.substr(0, w.size()), w)) return i + 1;
+  }
+  return 0;
+}
+
+int expandYear(int y, int digits) {
+  if (digits <= 2) return y < 30 ? 2000 + y : 1900 + y;
+  return y;
+}
+
+// The tokens sorted: numbers of the date (with their digit counts), numbers of the time (those
+// joined by ":"), a month name and AM/PM.
+struct DateWords {
   std::vector<int> dateNums, dateDigits, timeNums;
   int monthWord = 0;
   int ampm = 0;  // 1 AM, 2 PM
+};
+
+std::optional<DateWords> sortTokens(const std::vector<Token>& toks) {
+  DateWords w;
   for (size_t k = 0; k < toks.size(); ++k) {
     const Token& t = toks[k];
     if (!t.number) {
-      if (equalsIgnoreCase(t.word, "AM") || equalsIgnoreCase(t.word, "A")) ampm = 1;
-      else if (equalsIgnoreCase(t.word, "PM") || equalsIgnoreCase(t.word, "P")) ampm = 2;
+      if (equalsIgnoreCase(t.word, "AM") || equalsIgnoreCase(t.word, "A")) w.ampm = 1;
+      else if (equalsIgnoreCase(t.word, "PM") || equalsIgnoreCase(t.word, "P")) w.ampm = 2;
       else if (int m = monthFromName(t.word)) {
-        if (monthWord) return std::nullopt;
-        monthWord = m;
+        if (w.monthWord) return std::nullopt;
+        w.monthWord = m;
       } else {
         return std::nullopt;
       }
       continue;
     }
     const bool inTime = t.sep == ':' || (k > 0 && toks[k - 1].number && toks[k - 1].sep == ':');
-    if (inTime) timeNums.push_back(t.value);
-    else {
-      dateNums.push_back(t.value);
-      dateDigits.push_back(digitsCount[k]);
+    if (inTime) {
+      w.timeNums.push_back(t.value);
+    } else {
+      w.dateNums.push_back(t.value);
+      w.dateDigits.push_back(t.digits);
     }
   }
-  double result = 0;
-  bool haveDate = false;
-  if (monthWord) {
+  return w;
+}
+
+// The date's serial when the words hold one (nothing for no date); false when they hold a
+// date that cannot be. A lone number with AM or PM moves to the time ("10 AM").
+bool datePart(DateWords& w, std::optional<double>& date) {
+  const std::vector<int>& n = w.dateNums;
+  if (w.monthWord) {
     // "January 15, 2024" or "15 January 2024"
-    if (dateNums.size() != 2) return std::nullopt;
-    int d = dateNums[0], y = expandYear(dateNums[1], dateDigits[1]);
+    if (n.size() != 2) return false;
+    int d = n[0], y = expandYear(n[1], w.dateDigits[1]);
     if (d > 31) std::swap(d, y);
-    if (d < 1 || d > 31) return std::nullopt;
-    result = dateSerial(y, monthWord, d);
-    haveDate = true;
-  } else if (dateNums.size() == 3) {
-    int a = dateNums[0], b = dateNums[1], c = dateNums[2];
+    if (d < 1 || d > 31) return false;
+    date = dateSerial(y, w.monthWord, d);
+  } else if (n.size() == 3) {
     int y, m, d;
-    if (dateDigits[0] >= 3) y = a, m = b, d = c;  // year first
-    else m = a, d = b, y = expandYear(c, dateDigits[2]);
-    if (m < 1 || m > 12 || d < 1 || d > 31) return std::nullopt;
-    result = dateSerial(y, m, d);
-    if (splitDate(result).day != d) return std::nullopt;
-    haveDate = true;
-  } else if (dateNums.size() == 2) {
+    if (w.dateDigits[0] >= 3) y = n[0], m = n[1], d = n[2];  // year first
+    else m = n[0], d = n[1], y = expandYear(n[2], w.dateDigits[2]);
+    if (m < 1 || m > 12 || d < 1 || d > 31) return false;
+    date = dateSerial(y, m, d);
+    if (splitDate(*date).day != d) return false;
+  } else if (n.size() == 2) {
     // month/day of the current year
-    int m = dateNums[0], d = dateNums[1];
-    if (m < 1 || m > 12 || d < 1 || d > 31) return std::nullopt;
-    result = dateSerial(splitDate(nowSerial()).year, m, d);
-    haveDate = true;
-  } else if (!dateNums.empty()) {
-    if (!(dateNums.size() == 1 && ampm && timeNums.empty())) return std::nullopt;
-    timeNums.push_back(dateNums[0]);  // "10 AM"
+    const int m = n[0], d = n[1];
+    if (m < 1 || m > 12 || d < 1 || d > 31) return false;
+    date = dateSerial(splitDate(nowSerial()).year, m, d);
+  } else if (!n.empty()) {
+    if (!(n.size() == 1 && w.ampm && w.timeNums.empty())) return false;
+    w.timeNums.push_back(n[0]);
   }
-  if (!timeNums.empty()) {
-    if (timeNums.size() > 3) return std::nullopt;
-    int h = timeNums[0], mi = timeNums.size() > 1 ? timeNums[1] : 0, s = timeNums.size() > 2 ? timeNums[2] : 0;
-    if (mi > 59 || s > 59) return std::nullopt;
-    if (ampm) {
-      if (h < 1 || h > 12) return std::nullopt;
-      if (ampm == 1 && h == 12) h = 0;
-      if (ampm == 2 && h != 12) h += 12;
-    }
-    if (h > 23) return std::nullopt;
-    const double t = timeSerial(h, mi, s);
-    result = haveDate && result < 0 ? result - t : result + t;
-  } else if (!haveDate || ampm) {
-    return std::nullopt;
+  return true;
+}
+
+// The time of day's serial from hours, minutes and seconds with AM/PM; nothing when it cannot be.
+std::optional<double> timePart(const DateWords& w) {
+  const std::vector<int>& t = w.timeNums;
+  if (t.size() > 3) return std::nullopt;
+  int h = t[0];
+  const int mi = t.size() > 1 ? t[1] : 0, s = t.size() > 2 ? t[2] : 0;
+  if (mi > 59 || s > 59) return std::nullopt;
+  if (w.ampm) {
+    if (h < 1 || h > 12) return std::nullopt;
+    if (w.ampm == 1 && h == 12) h = 0;
+    if (w.ampm == 2 && h != 12) h += 12;
   }
-  return result;
+  if (h > 23) return std::nullopt;
+  return timeSerial(h, mi, s);
+}
+}  // namespace
+
+std::optional<double> parseDateText(std::string_view text) {
+  const std::optional<std::vector<Token>> toks = tokenize(text);
+  if (!toks || toks->empty()) return std::nullopt;
+  std::optional<DateWords> words = sortTokens(*toks);
+  if (!words) return std::nullopt;
+  std::optional<double> date;
+  if (!datePart(*words, date)) return std::nullopt;
+  if (words->timeNums.empty()) {
+    if (!date || words->ampm) return std::nullopt;
+    return date;
+  }
+  const std::optional<double> time = timePart(*words);
+  if (!time) return std::nullopt;
+  const double day = date.value_or(0);
+  return date && day < 0 ? day - *time : day + *time;
 }
 
 std::string formatShortDate(double serial) {

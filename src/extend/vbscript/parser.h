@@ -51,6 +51,15 @@ class Parser {
     std::vector<std::pair<ProcPtr, const Token*>> propertyDecls;
   };
 
+  // A new node of the tree, placed at the token.
+  template <class T>
+  static std::unique_ptr<T> at(const Token& t) {
+    auto n = std::make_unique<T>();
+    n->line = t.line;
+    n->col = t.col;
+    return n;
+  }
+
   // tokens
   const Token& cur() const { return lx_.tokens[pos_]; }
   const Token& peek(size_t k = 1) const {
@@ -85,7 +94,7 @@ class Parser {
   std::unique_ptr<NameExpr> nameNode(const Token& t, bool assigned);
   Variant constantLiteral();
 
-  // statements (parser_stmt.cpp)
+  // statements (parser_stmt.cpp, the loops in parser_loops.cpp)
   Block block();
   StmtPtr statement();
   StmtPtr simpleStatement();
@@ -105,6 +114,8 @@ class Parser {
   StmtPtr reDimStatement();
   StmtPtr eraseStatement();
   StmtPtr assignmentOrCall();
+  StmtPtr assignment(const Token& start, ExprPtr lhs);
+  StmtPtr callWithoutParentheses(const Token& start, ExprPtr lhs);
   [[noreturn]] void unexpectedTerminator() const;
 
   // declarations (parser_decl.cpp)
@@ -112,6 +123,9 @@ class Parser {
   StmtPtr dimStatement(bool inClass, bool isPublic);
   StmtPtr constStatement(bool isPublic);
   ProcPtr procedure(ProcKind kind, bool isPublic, bool isDefault, ClassDef* owner);
+  void parameters(Procedure& p, Scope& s);
+  void procedureEnd(ProcKind kind);  // End Sub / End Function / End Property
+  void addClassMember(ClassDef& c, const ProcPtr& p, const Token& nameTok);
   void classDeclaration();
   void resolveScope(Scope& s);
   void resolveClass(ClassScope& c);

@@ -195,23 +195,33 @@ ProcPtr Parser::procedure(ProcKind kind, bool isPublic, bool isDefault, ClassDef
   Scope s;
   s.proc = p.get();
   if (kind == ProcKind::Function || kind == ProcKind::PropertyGet) s.resultName = lowerName(p->name);
-  if (accept(Tok::LParen)) {
-    if (!is(Tok::RParen)) {
-      do {
-        Param prm;
-        if (acceptKw(Kw::ByVal)) prm.byVal = true;
-        else acceptKw(Kw::ByRef);
-        prm.name = identifier();
-        if (accept(Tok::LParen)) expect(Tok::RParen, ce::kExpectedRParen);
-        newSlot(s, lowerName(prm.name), false);
-        p->params.push_back(std::move(prm));
-      } while (accept(Tok::Comma));
-    }
-    expect(Tok::RParen, ce::kExpectedRParen);
-  }
+  parameters(*p, s);
   scope_ = &s;
   p->body = block();
   scope_ = nullptr;
+  procedureEnd(kind);
+  resolveScope(s);
+  if (owner) addClassMember(*owner, p, nameTok);
+  return p;
+}
+
+void Parser::parameters(Procedure& p, Scope& s) {
+  if (!accept(Tok::LParen)) return;
+  if (!is(Tok::RParen)) {
+    do {
+      Param prm;
+      if (acceptKw(Kw::ByVal)) prm.byVal = true;
+      else acceptKw(Kw::ByRef);
+      prm.name = identifier();
+      if (accept(Tok::LParen)) expect(Tok::RParen, ce::kExpectedRParen);
+      newSlot(s, lowerName(prm.name), false);
+      p.params.push_back(std::move(prm));
+    } while (accept(Tok::Comma));
+  }
+  expect(Tok::RParen, ce::kExpectedRParen);
+}
+
+void Parser::procedureEnd(ProcKind kind) {
   if (!acceptKw(Kw::End)) {
     if (is(Tok::End)) fail(ce::kExpectedEnd);
     unexpectedTerminator();
@@ -223,41 +233,39 @@ ProcPtr Parser::procedure(ProcKind kind, bool isPublic, bool isDefault, ClassDef
       if (!isWord("Property")) fail(ce::kExpectedProperty);
       take();
   }
-  resolveScope(s);
-  if (owner) {
-    ClassDef& c = *owner;
-    const std::string lower = lowerName(p->name);
-    int idx = c.find(lower);
-    if (idx < 0) {
-      idx = static_cast<int>(c.members.size());
-      ClassMember m;
-      m.name = p->name;
-      m.isPublic = isPublic;
-      c.members.push_back(std::move(m));
-      c.byName.emplace(lower, idx);
-    }
-    ClassMember& m = c.members[static_cast<size_t>(idx)];
-    if (m.field >= 0) failAt(ce::kRedefined, nameTok);
-    // A member given twice is refused: the names of the first body still wait to be bound.
-    auto& slot = kind == ProcKind::PropertyGet   ? m.get
-                 : kind == ProcKind::PropertyLet ? m.let
-                 : kind == ProcKind::PropertySet ? m.set
-                                                 : m.method;
-    if (slot) failAt(ce::kRedefined, nameTok);
-    slot = p;
-    if (isPublic) m.isPublic = true;
-    if (isDefault) {
-      if (c.defaultMember >= 0 && c.defaultMember != idx) failAt(ce::kMultipleDefault, nameTok);
-      c.defaultMember = idx;
-    }
-    if (lower == "class_initialize" || lower == "class_terminate") {
-      if (!p->params.empty()) failAt(ce::kInitArgs, nameTok);
-      (lower == "class_initialize" ? c.initialize : c.terminate) = p;
-    }
-    if ((kind == ProcKind::PropertyLet || kind == ProcKind::PropertySet) && p->params.empty())
-      failAt(ce::kLetSetNoArgs, nameTok);
+}
+
+void Parser::addClassMember(ClassDef& c, const ProcPtr& p, const Token& nameTok) {
+  const std::string lower = lowerName(p->name);
+  int idx = c.find(lower);
+  if (idx < 0) {
+    idx = static_cast<int>(c.members.size());
+    ClassMember m;
+    m.name = p->name;
+    m.isPublic = p->isPublic;
+    c.members.push_back(std::move(m));
+    c.byName.emplace(lower, idx);
   }
-  return p;
+  ClassMember& m = c.members[static_cast<size_t>(idx)];
+  if (m.field >= 0) failAt(ce::kRedefined, nameTok);
+  // A member given twice is refused: the names of the first body still wait to be bound.
+  auto& slot = p->kind == ProcKind::PropertyGet   ? m.get
+               : p->kind == ProcKind::PropertyLet ? m.let
+               : p->kind == ProcKind::PropertySet ? m.set
+                                                  : m.method;
+  if (slot) failAt(ce::kRedefined, nameTok);
+  slot = p;
+  if (p->isPublic) m.isPublic = true;
+  if (p->isDefault) {
+    if (c.defaultMember >= 0 && c.defaultMember != idx) failAt(ce::kMultipleDefault, nameTok);
+    c.defaultMember = idx;
+  }
+  if (lower == "class_initialize" || lower == "class_terminate") {
+    if (!p->params.empty()) failAt(ce::kInitArgs, nameTok);
+    (lower == "class_initialize" ? c.initialize : c.terminate) = p;
+  }
+  if ((p->kind == ProcKind::PropertyLet || p->kind == ProcKind::PropertySet) && p->params.empty())
+    failAt(ce::kLetSetNoArgs, nameTok);
 }
 
 void Parser::classDeclaration() {

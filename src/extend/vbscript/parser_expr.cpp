@@ -38,13 +38,6 @@ const BinaryRule* ruleFor(const Token& t) {
   return nullptr;
 }
 
-template <class T>
-std::unique_ptr<T> at(const Token& t) {
-  auto n = std::make_unique<T>();
-  n->line = t.line;
-  n->col = t.col;
-  return n;
-}
 }  // namespace
 
 void Parser::enter() {

@@ -6,14 +6,6 @@
 namespace lathwick::vbs {
 
 namespace {
-template <class T>
-std::unique_ptr<T> at(const Token& t) {
-  auto n = std::make_unique<T>();
-  n->line = t.line;
-  n->col = t.col;
-  return n;
-}
-
 // Gathers the names an expression reads and calls; false when it has members, New or calls
 // through anything but a plain name.
 bool collectNames(const Expr* e, std::vector<const NameExpr*>& names, std::vector<const NameExpr*>& callees) {
@@ -188,35 +180,42 @@ StmtPtr Parser::assignmentOrCall() {
     const bool assigned = is(Tok::Eq);
     lhs = postfix(nameNode(nameTok, assigned));
   }
-  if (is(Tok::Eq)) {
-    if (dynamic_cast<ParenExpr*>(lhs.get()) || dynamic_cast<MeExpr*>(lhs.get())) fail(ce::kSyntax);
-    take();
-    ExprPtr value = expression();
-    // `s = s & a & b` appends in place.
-    if (auto* target = dynamic_cast<NameExpr*>(lhs.get())) {
-      std::vector<const Expr*> pieces;
-      const Expr* leftmost = value.get();
-      while (auto* cat = dynamic_cast<const BinaryExpr*>(leftmost)) {
-        if (cat->op != BinOp::Concat) break;
-        pieces.insert(pieces.begin(), cat->right.get());
-        leftmost = cat->left.get();
-      }
-      auto* left = dynamic_cast<const NameExpr*>(leftmost);
-      if (!pieces.empty() && left && equalsIgnoreCase(left->name, target->name)) {
-        auto s = at<AppendStmt>(start);
-        s->target.reset(static_cast<NameExpr*>(lhs.release()));
-        s->value = std::move(value);
-        s->pieces = std::move(pieces);
-        s->simpleShape = true;
-        for (const Expr* e : s->pieces) s->simpleShape = s->simpleShape && collectNames(e, s->names, s->callees);
-        return s;
-      }
+  if (is(Tok::Eq)) return assignment(start, std::move(lhs));
+  return callWithoutParentheses(start, std::move(lhs));
+}
+
+StmtPtr Parser::assignment(const Token& start, ExprPtr lhs) {
+  if (dynamic_cast<ParenExpr*>(lhs.get()) || dynamic_cast<MeExpr*>(lhs.get())) fail(ce::kSyntax);
+  take();
+  ExprPtr value = expression();
+  // `s = s & a & b` appends in place.
+  if (auto* target = dynamic_cast<NameExpr*>(lhs.get())) {
+    std::vector<const Expr*> pieces;
+    const Expr* leftmost = value.get();
+    while (auto* cat = dynamic_cast<const BinaryExpr*>(leftmost)) {
+      if (cat->op != BinOp::Concat) break;
+      pieces.insert(pieces.begin(), cat->right.get());
+      leftmost = cat->left.get();
     }
-    auto s = at<AssignStmt>(start);
-    s->target = std::move(lhs);
-    s->value = std::move(value);
-    return s;
+    auto* left = dynamic_cast<const NameExpr*>(leftmost);
+    if (!pieces.empty() && left && equalsIgnoreCase(left->name, target->name)) {
+      auto s = at<AppendStmt>(start);
+      s->target.reset(static_cast<NameExpr*>(lhs.release()));
+      s->value = std::move(value);
+      s->pieces = std::move(pieces);
+      s->simpleShape = true;
+      for (const Expr* e : s->pieces) s->simpleShape = s->simpleShape && collectNames(e, s->names, s->callees);
+      return s;
+    }
   }
+  auto s = at<AssignStmt>(start);
+  s->target = std::move(lhs);
+  s->value = std::move(value);
+  return s;
+}
+
+// A call statement without Call: `S`, `S a, b`, `S(a)` (a copy of a), `S (a) * 2, b`.
+StmtPtr Parser::callWithoutParentheses(const Token& start, ExprPtr lhs) {
   auto s = at<CallStmt>(start);
   if (atStatementEnd()) {
     if (auto* c = dynamic_cast<CallExpr*>(lhs.get())) {
@@ -367,96 +366,6 @@ StmtPtr Parser::selectStatement() {
   }
 }
 
-// ---- loops -----------------------------------------------------------------------------------
-
-StmtPtr Parser::forStatement() {
-  const Token& start = take();
-  int& forDepth = scope_ ? scope_->forDepth : topForDepth_;
-  if (acceptKw(Kw::Each)) {
-    auto s = at<ForEachStmt>(start);
-    s->var = forVariable();
-    expectKw(Kw::In, ce::kExpectedIn);
-    s->group = expression();
-    endStatement();
-    s->body = forBody(forDepth);
-    return s;
-  }
-  auto s = at<ForStmt>(start);
-  s->var = forVariable();
-  expect(Tok::Eq, ce::kExpectedEq);
-  s->from = expression();
-  expectKw(Kw::To, ce::kExpectedTo);
-  s->to = expression();
-  if (isWord("Step")) {
-    take();
-    s->step = expression();
-  }
-  endStatement();
-  s->body = forBody(forDepth);
-  return s;
-}
-
-// The loop variable of For and For Each: a plain name, not an element or a member.
-std::unique_ptr<NameExpr> Parser::forVariable() {
-  if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
-  auto var = nameNode(take(), true);
-  if (is(Tok::LParen) || is(Tok::Dot)) fail(ce::kInvalidForVar);
-  return var;
-}
-
-// The statements up to Next; forDepth tells Exit For whether it is inside a loop.
-Block Parser::forBody(int& forDepth) {
-  ++forDepth;
-  auto body = block();
-  --forDepth;
-  if (!acceptKw(Kw::Next)) {
-    if (is(Tok::End)) fail(ce::kExpectedNext);
-    unexpectedTerminator();
-  }
-  return body;
-}
-
-StmtPtr Parser::doStatement() {
-  const Token& start = take();
-  auto s = at<DoStmt>(start);
-  if (isKw(Kw::While) || isKw(Kw::Until)) {
-    s->until = take().kw == Kw::Until;
-    s->cond = expression();
-  } else if (!atStatementEnd()) {
-    fail(ce::kExpectedWhileUntilEos);
-  }
-  int& doDepth = scope_ ? scope_->doDepth : topDoDepth_;
-  ++doDepth;
-  s->body = block();
-  --doDepth;
-  if (!acceptKw(Kw::Loop)) {
-    if (is(Tok::End)) fail(ce::kExpectedLoop);
-    if (isKw(Kw::Next)) fail(ce::kUnexpectedNext);
-    fail(ce::kExpectedLoop);
-  }
-  if (isKw(Kw::While) || isKw(Kw::Until)) {
-    if (s->cond) fail(ce::kExpectedEos);
-    s->until = take().kw == Kw::Until;
-    s->cond = expression();
-    s->post = true;
-  }
-  return s;
-}
-
-StmtPtr Parser::whileStatement() {
-  const Token& start = take();
-  auto s = at<DoStmt>(start);
-  s->isWhileWend = true;
-  s->cond = expression();
-  endStatement();
-  s->body = block();
-  if (!acceptKw(Kw::WEnd)) {
-    if (is(Tok::End)) fail(ce::kExpectedWend);
-    unexpectedTerminator();
-  }
-  return s;
-}
-
 StmtPtr Parser::withStatement() {
   const Token& start = take();
   auto s = at<WithStmt>(start);
@@ -468,31 +377,6 @@ StmtPtr Parser::withStatement() {
     unexpectedTerminator();
   }
   expectKw(Kw::With, ce::kExpectedWith);
-  return s;
-}
-
-StmtPtr Parser::exitStatement() {
-  const Token& start = take();
-  auto s = at<ExitStmt>(start);
-  const int doDepth = scope_ ? scope_->doDepth : topDoDepth_;
-  const int forDepth = scope_ ? scope_->forDepth : topForDepth_;
-  const Procedure* p = scope_ ? scope_->proc : nullptr;
-  if (isKw(Kw::Do)) {
-    if (doDepth == 0) fail(ce::kInvalidExit);
-    s->what = Flow::ExitDo;
-  } else if (isKw(Kw::For)) {
-    if (forDepth == 0) fail(ce::kInvalidExit);
-    s->what = Flow::ExitFor;
-  } else if (isKw(Kw::Sub)) {
-    if (!p || p->kind != ProcKind::Sub) fail(ce::kInvalidExit);
-  } else if (isKw(Kw::Function)) {
-    if (!p || p->kind != ProcKind::Function) fail(ce::kInvalidExit);
-  } else if (isWord("Property")) {
-    if (!p || p->kind == ProcKind::Sub || p->kind == ProcKind::Function) fail(ce::kInvalidExit);
-  } else {
-    fail(ce::kInvalidExit);
-  }
-  take();
   return s;
 }
 

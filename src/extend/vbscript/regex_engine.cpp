@@ -1,527 +1,147 @@
+// The matcher of the RegExp object: runs a compiled program over a subject by backtracking,
+// with its branches and saved registers on the heap.
 #include "extend/vbscript/regex_engine.h"
-
-#include <cctype>
-#include <climits>
-#include <memory>
-
-#include "extend/vbscript/errors.h"
 
 namespace lathwick::vbs {
 
-namespace {
-constexpr int kSyntax = 5017, kQuantifier = 5018, kBracket = 5019, kParen = 5020, kRange = 5021;
-constexpr int kInfinite = INT_MAX;
-constexpr size_t kMaxProgram = 200000;
-constexpr int kMaxNesting = 500;
-
-bool isWord(unsigned char c) { return std::isalnum(c) || c == '_'; }
-bool isLineBreak(unsigned char c) { return c == '\n' || c == '\r'; }
-unsigned char lower(unsigned char c) { return static_cast<unsigned char>(std::tolower(c)); }
-
-struct Node {
-  enum Kind { Empty, Char, Any, Class, Group, Alt, Concat, Repeat, Bol, Eol, WordB, NotWordB, Backref, Look } kind;
-  unsigned char c = 0;
-  int index = -1;  // class index, capture number (Group, Backref), or -1 for a plain group
-  int min = 0, max = 0;
-  bool lazy = false, negative = false;
-  std::vector<std::unique_ptr<Node>> kids;
-};
-using NodePtr = std::unique_ptr<Node>;
-NodePtr node(Node::Kind k) {
-  auto n = std::make_unique<Node>();
-  n->kind = k;
-  return n;
-}
-}  // namespace
-
-class RegexCompiler {
+// One run of the program from one instruction and position: `caps` receives the groups.
+class RegexMatcher {
  public:
-  RegexCompiler(Regex& re, std::string_view p) : re_(re), p_(p) {}
+  RegexMatcher(const Regex& re, const std::string& s, std::vector<int>& caps, size_t& steps,
+               const std::function<void()>& poll)
+      : re_(re), s_(s), caps_(caps), steps_(steps), poll_(poll), marks_(static_cast<size_t>(re.marks_), -1) {}
 
-  void compile() {
-    NodePtr root = alternation();
-    if (i_ < p_.size()) raise(kSyntax);  // a ")" without its "("
-    re_.required_ = required(*root);
-    emit(Regex::Op::Save, 0);
-    generate(*root);
-    emit(Regex::Op::Save, 1);
-    emit(Regex::Op::Match);
+  bool run(int pc, size_t pos) {
+    pc_ = pc;
+    pos_ = pos;
+    while (true) {
+      if ((++steps_ & 0xFFFF) == 0 && poll_) poll_();
+      const Regex::Inst& in = re_.prog_[static_cast<size_t>(pc_)];
+      if (in.op == Regex::Op::Match) return true;
+      if (!step(in) && !backtrack()) return false;
+    }
   }
 
  private:
-  // ---- parsing -------------------------------------------------------------------------------
-  bool more() const { return i_ < p_.size(); }
-  char peek() const { return p_[i_]; }
+  struct Entry {
+    int pc;    // branch target, or -1 for a register restore
+    int pos;   // branch position, or the register's old value
+    int slot;  // capture slot (>= 0) or mark (-2 - mark)
+  };
 
-  NodePtr alternation() {
-    if (++depth_ > kMaxNesting) raise(kSyntax);
-    NodePtr first = sequence();
-    if (!more() || peek() != '|') {
-      --depth_;
-      return first;
-    }
-    NodePtr alt = node(Node::Alt);
-    alt->kids.push_back(std::move(first));
-    while (more() && peek() == '|') {
-      ++i_;
-      alt->kids.push_back(sequence());
-    }
-    --depth_;
-    return alt;
+  unsigned char byte(size_t at) const { return static_cast<unsigned char>(s_[at]); }
+  bool more() const { return pos_ < s_.size(); }
+  // A test that takes the byte under the position along when it holds.
+  bool consume(bool ok) {
+    if (ok) ++pos_, ++pc_;
+    return ok;
   }
-
-  NodePtr sequence() {
-    NodePtr seq = node(Node::Concat);
-    while (more() && peek() != '|' && peek() != ')') {
-      NodePtr a = atom();
-      a = quantified(std::move(a));
-      seq->kids.push_back(std::move(a));
-    }
-    return seq;
+  // A test of the position that takes nothing along.
+  bool holds(bool ok) {
+    if (ok) ++pc_;
+    return ok;
   }
+  bool multiline() const { return re_.opt_.multiline; }
 
-  bool readInt(int& v) {
-    const size_t start = i_;
-    long long n = 0;
-    while (more() && std::isdigit(static_cast<unsigned char>(peek()))) {
-      n = n * 10 + (peek() - '0');
-      if (n > 100000) n = 100000;
-      ++i_;
-    }
-    v = static_cast<int>(n);
-    return i_ > start;
-  }
-
-  NodePtr quantified(NodePtr a) {
-    while (more()) {
-      int mn, mx;
-      const size_t save = i_;
-      const char q = peek();
-      if (q == '*') mn = 0, mx = kInfinite, ++i_;
-      else if (q == '+') mn = 1, mx = kInfinite, ++i_;
-      else if (q == '?') mn = 0, mx = 1, ++i_;
-      else if (q == '{') {
-        ++i_;
-        if (!readInt(mn)) {
-          i_ = save;  // a literal "{"
-          return a;
-        }
-        mx = mn;
-        if (more() && peek() == ',') {
-          ++i_;
-          if (!readInt(mx)) mx = kInfinite;
-        }
-        if (!more() || peek() != '}') {
-          i_ = save;
-          return a;
-        }
-        ++i_;
-        if (mx < mn) raise(kSyntax);
-      } else {
-        return a;
-      }
-      if (a->kind == Node::Bol || a->kind == Node::Eol || a->kind == Node::WordB || a->kind == Node::NotWordB ||
-          a->kind == Node::Look || a->kind == Node::Repeat)
-        raise(kQuantifier);
-      NodePtr r = node(Node::Repeat);
-      r->min = mn;
-      r->max = mx;
-      if (more() && peek() == '?') r->lazy = true, ++i_;
-      r->kids.push_back(std::move(a));
-      a = std::move(r);
-    }
-    return a;
-  }
-
-  NodePtr charNode(unsigned char c) {
-    NodePtr n = node(Node::Char);
-    n->c = c;
-    return n;
-  }
-
-  // Both cases of every letter in the set (before a negation is applied).
-  std::bitset<256> folded(const std::bitset<256>& bits) const {
-    std::bitset<256> b = bits;
-    if (re_.opt_.ignoreCase)
-      for (int c = 0; c < 256; ++c)
-        if (bits[static_cast<size_t>(c)]) b.set(lower(static_cast<unsigned char>(c))), b.set(static_cast<size_t>(std::toupper(c)));
-    return b;
-  }
-
-  NodePtr classNode(const std::bitset<256>& bits) {
-    NodePtr n = node(Node::Class);
-    re_.classes_.push_back(bits);
-    n->index = static_cast<int>(re_.classes_.size()) - 1;
-    return n;
-  }
-
-  static std::bitset<256> shorthand(char e) {
-    std::bitset<256> b;
-    for (int c = 0; c < 256; ++c) {
-      const auto u = static_cast<unsigned char>(c);
-      bool in = false;
-      switch (e | 0x20) {
-        case 'd': in = std::isdigit(u); break;
-        case 'w': in = isWord(u); break;
-        case 's': in = u == ' ' || (u >= 9 && u <= 13) || u == 0xA0; break;
-      }
-      b[static_cast<size_t>(c)] = (e >= 'a') ? in : !in;
-    }
-    return b;
-  }
-
-  int hexDigits(int n) {
-    int v = 0;
-    for (int k = 0; k < n; ++k) {
-      if (!more() || !std::isxdigit(static_cast<unsigned char>(peek()))) return -1;
-      const char h = p_[i_++];
-      v = v * 16 + (std::isdigit(static_cast<unsigned char>(h)) ? h - '0' : (h | 0x20) - 'a' + 10);
-    }
-    return v;
-  }
-
-  // An escaped character (after the backslash) as a byte, for \n \t \xHH and the like.
-  int escapedChar(char e) {
-    switch (e) {
-      case 'n': return '\n';
-      case 'r': return '\r';
-      case 't': return '\t';
-      case 'f': return '\f';
-      case 'v': return '\v';
-      case '0': return 0;
-      case 'x': {
-        const size_t save = i_;
-        const int v = hexDigits(2);
-        if (v < 0) i_ = save;
-        return v < 0 ? 'x' : v;
-      }
-      case 'u': {
-        const size_t save = i_;
-        const int v = hexDigits(4);
-        if (v < 0) i_ = save;
-        return v < 0 ? 'u' : (v & 0xFF);
-      }
-      case 'c':
-        if (more() && std::isalpha(static_cast<unsigned char>(peek()))) return p_[i_++] % 32;
-        return 'c';
-      default: return static_cast<unsigned char>(e);
-    }
-  }
-
-  NodePtr atom() {
-    const char c = p_[i_++];
-    switch (c) {
-      case '.': return node(Node::Any);
-      case '^': return node(Node::Bol);
-      case '$': return node(Node::Eol);
-      case '*':
-      case '+':
-      case '?': raise(kQuantifier);
-      case '(': {
-        NodePtr g;
-        if (more() && peek() == '?') {
-          ++i_;
-          if (!more()) raise(kSyntax);
-          const char k = p_[i_++];
-          if (k == ':') g = node(Node::Group);
-          else if (k == '=' || k == '!') {
-            g = node(Node::Look);
-            g->negative = k == '!';
-          } else {
-            raise(kSyntax);
-          }
-        } else {
-          g = node(Node::Group);
-          g->index = ++re_.groups_;
-        }
-        g->kids.push_back(alternation());
-        if (!more() || peek() != ')') raise(kParen);
-        ++i_;
-        return g;
-      }
-      case ')': raise(kSyntax);
-      case '[': return bracket();
-      case '\\': {
-        if (!more()) raise(kSyntax);
-        const char e = p_[i_++];
-        switch (e) {
-          case 'd': case 'D': case 'w': case 'W': case 's': case 'S': return classNode(shorthand(e));
-          case 'b': return node(Node::WordB);
-          case 'B': return node(Node::NotWordB);
-          default: break;
-        }
-        if (e >= '1' && e <= '9') {
-          NodePtr b = node(Node::Backref);
-          b->index = e - '0';
-          return b;
-        }
-        return charNode(static_cast<unsigned char>(escapedChar(e)));
-      }
-      default: return charNode(static_cast<unsigned char>(c));
-    }
-  }
-
-  NodePtr bracket() {
-    std::bitset<256> b;
-    bool negate = false;
-    if (more() && peek() == '^') negate = true, ++i_;
-    bool first = true;
-    while (true) {
-      if (!more()) raise(kBracket);
-      if (peek() == ']' && !first) break;
-      first = false;
-      int lo;
-      char c = p_[i_++];
-      if (c == '\\') {
-        if (!more()) raise(kBracket);
-        const char e = p_[i_++];
-        if (std::string_view("dDwWsS").find(e) != std::string_view::npos) {
-          b |= shorthand(e);
-          continue;
-        }
-        lo = e == 'b' ? '\b' : escapedChar(e);
-      } else {
-        lo = static_cast<unsigned char>(c);
-      }
-      int hi = lo;
-      if (more() && peek() == '-' && i_ + 1 < p_.size() && p_[i_ + 1] != ']') {
-        ++i_;
-        char h = p_[i_++];
-        if (h == '\\') {
-          if (!more()) raise(kBracket);
-          hi = escapedChar(p_[i_++]);
-        } else {
-          hi = static_cast<unsigned char>(h);
-        }
-        if (hi < lo) raise(kRange);
-      }
-      for (int k = lo; k <= hi; ++k) b.set(static_cast<size_t>(k));
-    }
-    ++i_;  // ]
-    b = folded(b);
-    if (negate) b.flip();
-    return classNode(b);
-  }
-
-  std::bitset<256> required(const Node& n) const {
-    std::bitset<256> r;
-    switch (n.kind) {
-      case Node::Char:
-        r.set(n.c);
-        if (re_.opt_.ignoreCase) r.reset();  // either case will do: no single byte is required
-        break;
-      case Node::Concat:
-        for (const auto& k : n.kids) r |= required(*k);
-        break;
-      case Node::Group: r = required(*n.kids[0]); break;
-      case Node::Repeat:
-        if (n.min > 0) r = required(*n.kids[0]);
-        break;
-      case Node::Alt:
-        r.set();
-        for (const auto& k : n.kids) r &= required(*k);
-        break;
-      default: break;
-    }
-    return r;
-  }
-
-  // ---- code generation -------------------------------------------------------------------------
-  int emit(Regex::Op op, int x = 0, int y = 0, unsigned char c = 0) {
-    if (re_.prog_.size() >= kMaxProgram) raise(kSyntax);
-    re_.prog_.push_back(Regex::Inst{op, c, x, y});
-    return static_cast<int>(re_.prog_.size()) - 1;
-  }
-  int here() const { return static_cast<int>(re_.prog_.size()); }
-
-  void generate(const Node& n) {
+  // Runs one instruction (never Match); false when matching fails here.
+  bool step(const Regex::Inst& in) {
     using Op = Regex::Op;
-    switch (n.kind) {
-      case Node::Empty: break;
-      case Node::Char: emit(Op::Char, 0, 0, re_.opt_.ignoreCase ? lower(n.c) : n.c); break;
-      case Node::Any: emit(Op::Any); break;
-      case Node::Class: emit(Op::Class, n.index); break;
-      case Node::Bol: emit(Op::Bol); break;
-      case Node::Eol: emit(Op::Eol); break;
-      case Node::WordB: emit(Op::WordB); break;
-      case Node::NotWordB: emit(Op::NotWordB); break;
-      case Node::Backref: emit(Op::Backref, n.index); break;
-      case Node::Concat:
-        for (const auto& k : n.kids) generate(*k);
-        break;
-      case Node::Group:
-        if (n.index > 0) emit(Op::Save, 2 * n.index);
-        generate(*n.kids[0]);
-        if (n.index > 0) emit(Op::Save, 2 * n.index + 1);
-        break;
-      case Node::Look: {
-        const int at = emit(Op::Look, 0, n.negative ? 1 : 0);
-        generate(*n.kids[0]);
-        emit(Op::Match);
-        re_.prog_[static_cast<size_t>(at)].x = here();  // where matching goes on
-        break;
-      }
-      case Node::Alt: {
-        std::vector<int> jumps;
-        for (size_t k = 0; k < n.kids.size(); ++k) {
-          if (k + 1 < n.kids.size()) {
-            const int split = emit(Op::Split);
-            re_.prog_[static_cast<size_t>(split)].x = here();
-            generate(*n.kids[k]);
-            jumps.push_back(emit(Op::Jmp));
-            re_.prog_[static_cast<size_t>(split)].y = here();
-          } else {
-            generate(*n.kids[k]);
-          }
-        }
-        for (int j : jumps) re_.prog_[static_cast<size_t>(j)].x = here();
-        break;
-      }
-      case Node::Repeat: {
-        const Node& body = *n.kids[0];
-        for (int k = 0; k < n.min; ++k) generate(body);
-        if (n.max == kInfinite) {
-          const int mark = re_.marks_++;
-          const int split = emit(Op::Split);
-          const int bodyStart = here();
-          emit(Op::Mark, mark);
-          generate(body);
-          emit(Op::Progress, mark);  // an empty turn of the loop ends it
-          emit(Op::Jmp, split);
-          setSplit(split, bodyStart, here(), n.lazy);
-        } else {
-          std::vector<int> splits;
-          for (int k = n.min; k < n.max; ++k) {
-            splits.push_back(emit(Op::Split));
-            const int bodyStart = here();
-            generate(body);
-            re_.prog_[static_cast<size_t>(splits.back())].x = bodyStart;
-          }
-          for (int s : splits) setSplit(s, re_.prog_[static_cast<size_t>(s)].x, here(), n.lazy);
-        }
-        break;
-      }
+    const auto x = static_cast<size_t>(in.x);
+    switch (in.op) {
+      case Op::Char: return consume(more() && (re_.opt_.ignoreCase ? lowerByte(byte(pos_)) : byte(pos_)) == in.c);
+      case Op::Any: return consume(more() && !isLineBreakByte(byte(pos_)));
+      case Op::Class: return consume(more() && re_.classes_[x][byte(pos_)]);
+      case Op::Split:
+        stack_.push_back({in.y, static_cast<int>(pos_), 0});
+        pc_ = in.x;
+        return true;
+      case Op::Jmp: pc_ = in.x; return true;
+      case Op::Save:
+        stack_.push_back({-1, caps_[x], in.x});
+        caps_[x] = static_cast<int>(pos_);
+        ++pc_;
+        return true;
+      case Op::Mark:
+        stack_.push_back({-1, marks_[x], -2 - in.x});
+        marks_[x] = static_cast<int>(pos_);
+        ++pc_;
+        return true;
+      case Op::Progress: return holds(marks_[x] != static_cast<int>(pos_));
+      case Op::Bol: return holds(pos_ == 0 || (multiline() && isLineBreakByte(byte(pos_ - 1))));
+      case Op::Eol: return holds(pos_ == s_.size() || (multiline() && isLineBreakByte(byte(pos_))));
+      case Op::WordB: return holds(atWordBoundary());
+      case Op::NotWordB: return holds(!atWordBoundary());
+      case Op::Backref: return holds(backReference(x));
+      case Op::Look: return lookAhead(in);
+      case Op::Match: return true;
     }
+    return false;
   }
 
-  void setSplit(int at, int body, int exit, bool lazy) {
-    Regex::Inst& s = re_.prog_[static_cast<size_t>(at)];
-    s.x = lazy ? exit : body;
-    s.y = lazy ? body : exit;
+  bool atWordBoundary() const {
+    const bool before = pos_ > 0 && isWordByte(byte(pos_ - 1));
+    const bool after = more() && isWordByte(byte(pos_));
+    return before != after;
   }
 
-  Regex& re_;
-  std::string_view p_;
-  size_t i_ = 0;
-  int depth_ = 0;
+  // The text group g took, again at the position (and taken along); a group that took no part
+  // matches the empty text.
+  bool backReference(size_t g) {
+    if (2 * g + 1 >= caps_.size() || caps_[2 * g] < 0 || caps_[2 * g + 1] < 0) return true;
+    const size_t b = static_cast<size_t>(caps_[2 * g]), len = static_cast<size_t>(caps_[2 * g + 1]) - b;
+    if (pos_ + len > s_.size()) return false;
+    for (size_t k = 0; k < len; ++k) {
+      const unsigned char x = byte(b + k), y = byte(pos_ + k);
+      if (re_.opt_.ignoreCase ? lowerByte(x) != lowerByte(y) : x != y) return false;
+    }
+    pos_ += len;
+    return true;
+  }
+
+  // (?=...) and (?!...): the inner program runs on its own from here; a positive look-ahead
+  // that matched keeps its groups.
+  bool lookAhead(const Regex::Inst& in) {
+    std::vector<int> inner = caps_;
+    const bool found = RegexMatcher(re_, s_, inner, steps_, poll_).run(pc_ + 1, pos_);
+    const bool ok = found != (in.y == 1);
+    if (ok) {
+      if (found) caps_ = inner;
+      pc_ = in.x;
+    }
+    return ok;
+  }
+
+  // Back to the last branch not yet tried, undoing the registers set since; false when none is
+  // left.
+  bool backtrack() {
+    while (!stack_.empty()) {
+      const Entry e = stack_.back();
+      stack_.pop_back();
+      if (e.pc >= 0) {
+        pc_ = e.pc;
+        pos_ = static_cast<size_t>(e.pos);
+        return true;
+      }
+      if (e.slot >= 0) caps_[static_cast<size_t>(e.slot)] = e.pos;
+      else marks_[static_cast<size_t>(-2 - e.slot)] = e.pos;
+    }
+    return false;
+  }
+
+  const Regex& re_;
+  const std::string& s_;
+  std::vector<int>& caps_;
+  size_t& steps_;
+  const std::function<void()>& poll_;
+  std::vector<int> marks_;
+  std::vector<Entry> stack_;
+  int pc_ = 0;
+  size_t pos_ = 0;
 };
-
-Regex::Regex(std::string_view pattern, Options options) : opt_(options) { RegexCompiler(*this, pattern).compile(); }
 
 bool Regex::run(int pc, const std::string& s, size_t pos, std::vector<int>& caps, size_t& steps,
                 const std::function<void()>& poll) const {
-  struct Entry {
-    int pc;      // branch target, or -1 for a register restore
-    int pos;     // branch position, or the register's old value
-    int slot;    // capture slot (>= 0) or mark (-2 - mark)
-  };
-  std::vector<Entry> stack;
-  std::vector<int> marks(static_cast<size_t>(marks_), -1);
-  const size_t n = s.size();
-  auto fail = [&]() -> bool {
-    while (!stack.empty()) {
-      const Entry e = stack.back();
-      stack.pop_back();
-      if (e.pc >= 0) {
-        pc = e.pc;
-        pos = static_cast<size_t>(e.pos);
-        return true;
-      }
-      if (e.slot >= 0) caps[static_cast<size_t>(e.slot)] = e.pos;
-      else marks[static_cast<size_t>(-2 - e.slot)] = e.pos;
-    }
-    return false;
-  };
-  while (true) {
-    if ((++steps & 0xFFFF) == 0 && poll) poll();
-    const Inst& in = prog_[static_cast<size_t>(pc)];
-    bool ok = true;
-    switch (in.op) {
-      case Op::Char:
-        ok = pos < n && (opt_.ignoreCase ? lower(static_cast<unsigned char>(s[pos])) : static_cast<unsigned char>(s[pos])) == in.c;
-        if (ok) ++pos, ++pc;
-        break;
-      case Op::Any:
-        ok = pos < n && !isLineBreak(static_cast<unsigned char>(s[pos]));
-        if (ok) ++pos, ++pc;
-        break;
-      case Op::Class:
-        ok = pos < n && classes_[static_cast<size_t>(in.x)][static_cast<unsigned char>(s[pos])];
-        if (ok) ++pos, ++pc;
-        break;
-      case Op::Split:
-        stack.push_back({in.y, static_cast<int>(pos), 0});
-        pc = in.x;
-        break;
-      case Op::Jmp: pc = in.x; break;
-      case Op::Save:
-        stack.push_back({-1, caps[static_cast<size_t>(in.x)], in.x});
-        caps[static_cast<size_t>(in.x)] = static_cast<int>(pos);
-        ++pc;
-        break;
-      case Op::Mark:
-        stack.push_back({-1, marks[static_cast<size_t>(in.x)], -2 - in.x});
-        marks[static_cast<size_t>(in.x)] = static_cast<int>(pos);
-        ++pc;
-        break;
-      case Op::Progress:
-        ok = marks[static_cast<size_t>(in.x)] != static_cast<int>(pos);
-        if (ok) ++pc;
-        break;
-      case Op::Bol:
-        ok = pos == 0 || (opt_.multiline && isLineBreak(static_cast<unsigned char>(s[pos - 1])));
-        if (ok) ++pc;
-        break;
-      case Op::Eol:
-        ok = pos == n || (opt_.multiline && isLineBreak(static_cast<unsigned char>(s[pos])));
-        if (ok) ++pc;
-        break;
-      case Op::WordB:
-      case Op::NotWordB: {
-        const bool before = pos > 0 && isWord(static_cast<unsigned char>(s[pos - 1]));
-        const bool after = pos < n && isWord(static_cast<unsigned char>(s[pos]));
-        ok = (before != after) == (in.op == Op::WordB);
-        if (ok) ++pc;
-        break;
-      }
-      case Op::Backref: {
-        const size_t g = static_cast<size_t>(in.x);
-        if (2 * g + 1 < caps.size() && caps[2 * g] >= 0 && caps[2 * g + 1] >= 0) {
-          const size_t b = static_cast<size_t>(caps[2 * g]), len = static_cast<size_t>(caps[2 * g + 1]) - b;
-          ok = pos + len <= n;
-          for (size_t k = 0; ok && k < len; ++k) {
-            const auto x = static_cast<unsigned char>(s[b + k]), y = static_cast<unsigned char>(s[pos + k]);
-            ok = opt_.ignoreCase ? lower(x) == lower(y) : x == y;
-          }
-          if (ok) pos += len;
-        }
-        if (ok) ++pc;
-        break;
-      }
-      case Op::Look: {
-        std::vector<int> inner = caps;
-        const bool found = run(pc + 1, s, pos, inner, steps, poll);
-        ok = found != (in.y == 1);
-        if (ok) {
-          if (found) caps = inner;
-          pc = in.x;
-        }
-        break;
-      }
-      case Op::Match: return true;
-    }
-    if (!ok && !fail()) return false;
-  }
+  return RegexMatcher(*this, s, caps, steps, poll).run(pc, pos);
 }
 
 bool Regex::search(const std::string& subject, size_t from, std::vector<int>& groups,

@@ -47,6 +47,17 @@ class Regex {
   int marks_ = 0;
   Options opt_;
   friend class RegexCompiler;
+  friend class RegexMatcher;
 };
+
+// The bytes as patterns see them: ASCII word characters, line breaks, ASCII case folding.
+inline unsigned char lowerByte(unsigned char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c | 0x20) : c;
+}
+inline bool isWordByte(unsigned char c) {
+  const unsigned char l = lowerByte(c);
+  return (c >= '0' && c <= '9') || (l >= 'a' && l <= 'z') || c == '_';
+}
+inline bool isLineBreakByte(unsigned char c) { return c == '\n' || c == '\r'; }
 
 }  // namespace lathwick::vbs

@@ -128,7 +128,7 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
       throw makeError(err::kPathFileAccessError);
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
-    settings_.save("Startup", "LastPath", lastPath_);
+    writeSetting(settings_, Setting::LastPath, lastPath_);
     editor->prepare();
     editor->rtfTextBox().loadFile(values_.Temp2File, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
     DocumentRecord& record = documents_.record(index);

@@ -6,6 +6,7 @@
 #include "document/gui/frm_editor.h"
 #include "format/gui/frm_setup.h"
 #include "platform/bytes.h"
+#include "platform/settings_table.h"
 #include "shell/gui/mdi_form.h"
 #include "shell/gui/status_panels.h"
 
@@ -13,13 +14,11 @@ namespace lathwick::gui {
 
 namespace {
 
-constexpr const char* kStartup = "Startup";
-
 PrintContext printContext(MDIForm1& frame) {
   PrintContext context;
-  context.printProgram = trimBlanks(frame.settings().get(kStartup, "PrintProgram", kDefaultPrintProgram));
+  context.printProgram = trimBlanks(readSetting(frame.settings(), Setting::PrintProgram));
   context.storePrintProgram = [&frame](const std::string& program) {
-    frame.settings().save(kStartup, "PrintProgram", program);
+    writeSetting(frame.settings(), Setting::PrintProgram, program);
   };
   context.statusText = [&frame](const std::string& text) { frame.statusPanels().setText("Stat", text); };
   context.printRtfFile = frame.values().PrintRtfFile;
@@ -36,13 +35,13 @@ class FrameSetupHost : public SetupHost {
   std::string appFolder() const override { return frame_.values().AppFolder; }
   long rememberedRecord() const override {
     try {
-      return std::stol(frame_.settings().get(kStartup, "record", "1"));
+      return std::stol(readSetting(frame_.settings(), Setting::Record));
     } catch (const std::exception&) {
       return 1;
     }
   }
   void rememberRecord(long record) override {
-    if (record >= 1) frame_.settings().save(kStartup, "record", std::to_string(record));
+    if (record >= 1) writeSetting(frame_.settings(), Setting::Record, std::to_string(record));
   }
   void schemesChanged() override {
     frame_.forgetSchemeRecord();

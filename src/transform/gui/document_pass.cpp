@@ -5,26 +5,55 @@
 
 #include "platform/gui/dialogs.h"
 #include "transform/gui/qt_pass_monitor.h"
-#include "transform/gui/transform_target.h"
-#include "workspace/pass_report.h"
 
 namespace lathwick::gui {
 
-using transform::PassOutcome;
-using transform::PassResult;
+namespace {
+void report(const PassResult& result) {
+  const PassReport report = reportOf(result);
+  if (report.shown) dialogs().message(report.text, report.caption, Buttons::Ok, report.icon);
+}
 
-std::optional<PassResult> runDocumentPass(TransformTarget& target, QProgressBar* bar, QWidget* parent,
-                                          const DocumentPass& pass) {
+// Tells the frame a run is going on for as long as it lasts, however it ends.
+class Running {
+ public:
+  explicit Running(const std::function<void(bool)>& tell) : tell_(tell) {
+    if (tell_) tell_(true);
+  }
+  ~Running() {
+    if (tell_) tell_(false);
+  }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  const std::function<void(bool)>& tell_;
+};
+}  // namespace
+
+std::optional<PassResult> runDocumentPass(TransformTarget& target, const PassRun& run, const DocumentPass& pass) {
   const std::string in = target.inputWorkFile();
   if (!target.savePlainText(in)) return std::nullopt;
   PassResult result;
   {
     const BusyCursor hourglass;
-    QtPassMonitor monitor(bar, [&target](const std::string& text) { target.setStatusText(text); }, parent);
+    const Running running(run.running);
+    QtPassMonitor monitor(run.bar, [&target](const std::string& text) { target.setStatusText(text); }, run.parent);
     result = pass(in, target.outputWorkFile(), monitor);
   }
-  reportPassOutcome(result);
+  if (result.outcome == PassOutcome::Completed && result.reload) {
+    takeOutput(target, target.outputWorkFile(), run.output);
+    if (run.notify) notifyPassDone(target, *run.notify);
+  } else {
+    report(result);
+  }
   return result;
+}
+
+bool takeOutput(TransformTarget& target, const std::string& path, ReloadFormat format) {
+  const bool loaded = target.reloadDocument(path, format);
+  if (loaded) target.setFileUndoable(true);
+  return loaded;
 }
 
 ButtonsHeld::ButtonsHeld(QWidget& dialog, const QAbstractButton* cancel) {
@@ -38,11 +67,6 @@ ButtonsHeld::ButtonsHeld(QWidget& dialog, const QAbstractButton* cancel) {
 ButtonsHeld::~ButtonsHeld() {
   for (const QPointer<QAbstractButton>& b : held_)
     if (b) b->setEnabled(true);
-}
-
-void reportPassOutcome(const PassResult& result) {
-  const PassReport report = reportOf(result);
-  if (report.shown) dialogs().message(report.text, report.caption, Buttons::Ok, report.icon);
 }
 
 }  // namespace lathwick::gui

@@ -1,8 +1,9 @@
 #pragma once
-// How a dialog runs one pass over the active document: the document's plain text goes to the
-// input work file, the pass runs with the hourglass, progress and the cancel flag, and whatever
-// went wrong is shown in its message box. Loading the output back is left to the dialog, since
-// each operation decides when its output enters the document.
+// The one way a whole-document run goes in the editor, for the colour views, the Options menu's
+// passes and the dialogs' passes alike: the document's plain text goes to the input work file,
+// the run goes from there to the output work file with the hourglass, progress and the cancel
+// flag, and then a completed run's output comes back as a whole-document reload that Undo can
+// take back (FileUndoable), or whatever went wrong is shown in its message box.
 #include <QPointer>
 #include <functional>
 #include <optional>
@@ -10,7 +11,9 @@
 #include <vector>
 
 #include "platform/pass_monitor.h"
-#include "transform/pass_result.h"
+#include "platform/pass_result.h"
+#include "transform/gui/pass_observer.h"
+#include "transform/gui/transform_target.h"
 
 class QAbstractButton;
 class QProgressBar;
@@ -18,15 +21,28 @@ class QWidget;
 
 namespace lathwick::gui {
 
-class TransformTarget;
+using DocumentPass = std::function<PassResult(const std::string& inPath, const std::string& outPath, PassMonitor&)>;
 
-using DocumentPass =
-    std::function<transform::PassResult(const std::string& inPath, const std::string& outPath, PassMonitor&)>;
+// How one run shows itself and how its output enters the document.
+struct PassRun {
+  QProgressBar* bar = nullptr;     // a dialog's own progress bar; null: the progress form
+  QWidget* parent = nullptr;       // the dialog, or the frame the progress form shows over
+  ReloadFormat output = ReloadFormat::Rich;
+  std::optional<PassKind> notify;  // the pass observer hears of the reload (the motion check)
+  // Told true before the run and false after it: the frame lets Esc cancel from anywhere while
+  // a menu command's run goes on (a dialog's run has the dialog's own Esc).
+  std::function<void(bool running)> running;
+};
 
 // Empty when the document could not be written to the input work file: then nothing runs and
-// nothing is reported. `bar` may be null (no progress display of the dialog's own).
-std::optional<transform::PassResult> runDocumentPass(TransformTarget& target, QProgressBar* bar, QWidget* parent,
-                                                     const DocumentPass& pass);
+// nothing is said. (A run that puts its own text in the status bar ends with "Press F1 for
+// help." itself.)
+std::optional<PassResult> runDocumentPass(TransformTarget& target, const PassRun& run, const DocumentPass& pass);
+
+// A finished output enters the document: ReloadDocument, then FileUndoable when the reload (and
+// the undo snapshot before it) worked, so that Undo never reaches for a snapshot that is not
+// there. False when the reload failed.
+bool takeOutput(TransformTarget& target, const std::string& path, ReloadFormat format);
 
 // While a pass lets window events run, only the dialog's Cancel button may act: every other
 // button of `dialog` is disabled for the lifetime of this object and then given back its state.
@@ -40,8 +56,5 @@ class ButtonsHeld {
  private:
   std::vector<QPointer<QAbstractButton>> held_;
 };
-
-// The message box of an outcome other than Completed (none for NoInput).
-void reportPassOutcome(const transform::PassResult& result);
 
 }  // namespace lathwick::gui

@@ -111,9 +111,9 @@ frmOperate::frmOperate(SettingsStore& settings, QWidget* parent) : QDialog(paren
 
 void frmOperate::loadFields() {
   // The history's default is the table's; a remembered address then takes the edit line.
-  loadComboHistory(*cboAddress_, settings_, OperateSettings{}.address);
+  loadComboHistory(*cboAddress_, settings_, settingDefault(Setting::OperateAddress));
   const OperateSettings stored = readOperateSettings(settings_);
-  if (settings_.has(kOperate, "Address") && !stored.address.empty())
+  if (isSettingStored(settings_, Setting::OperateAddress) && !stored.address.empty())
     cboAddress_->setEditText(fromBytes(stored.address));
   const int op = cboOperators_->findText(fromBytes(stored.op));
   cboOperators_->setCurrentIndex(op >= 0 ? op : 0);
@@ -183,22 +183,20 @@ void frmOperate::onOK() {
     request.excludeComments = excludeCommentsSetting(settings_);
     request.range = range_.lines;
     request.displayLineCount = target.lineCount();
-    const RichTextFrame frame = richTextFrameOf(target.passFrame());
+    const PassFrame frame = target.passFrame();
+    PassRun run;
+    run.bar = progOperate_;
+    run.parent = this;
+    run.notify = PassKind::ChangesMotion;
     std::optional<PassResult> result;
     {
       const ButtonsHeld held(*this, cmdCancel_);
-      result = runDocumentPass(target, progOperate_, this,
-                               [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-                                 return runOperate(in, out, request, frame, monitor);
-                               });
+      result = runDocumentPass(target, run, [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return runOperate(in, out, request, frame, monitor);
+      });
     }
     if (!result || result->outcome != PassOutcome::Completed) return;
-    if (result->reload) {
-      target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
-      target.setFileUndoable(true);
-      cmdUndo_->setEnabled(true);
-      notifyPassDone(target, PassKind::ChangesMotion);
-    }
+    if (result->reload) cmdUndo_->setEnabled(true);
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {
     dialogs().message(passErrorMessage(e.number(), e.description(), kOperateErrorEnding), kAppTitle, Buttons::Ok,

@@ -58,33 +58,9 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   setWindowModality(Qt::ApplicationModal);
 
   const NumberingSettings stored = readNumberingSettings(settings_);
-  method_ = stored.method >= 0 && stored.method <= 2 ? stored.method : 2;
-
-  txtStart_ = field(this, "txtStart", stored.start);
-  txtStart_->setValidator(digitsFilter(txtStart_));
-  txtStep_ = field(this, "txtStep", stored.increment);
-  txtStep_->setValidator(digitsFilter(txtStep_));
-  txtSeqChr_ = field(this, "txtSeqChr", stored.character);
-  txtSkipLines_ = field(this, "txtSkipLines", stored.skipLines);
-
-  auto* form = new QFormLayout;
-  form->addRow("Start &Number", txtStart_);
-  form->addRow("&Increment", txtStep_);
-  form->addRow("Sequence &Chr", txtSeqChr_);
-  form->addRow("Skip LInes Starting &With", txtSkipLines_);
-
-  auto* methods = new QGroupBox("Method", this);
-  auto* methodLayout = new QVBoxLayout(methods);
-  auto* group = new QButtonGroup(this);
-  for (int i = 0; i < 3; ++i) {
-    auto* option = new QRadioButton(QString::fromLatin1(kMethodCaptions[i]), methods);
-    option->setObjectName(QStringLiteral("Option1_%1").arg(i));
-    group->addButton(option, i);
-    methodLayout->addWidget(option);
-    Option1_[i] = option;
-  }
-  Option1_[method_]->setChecked(true);
-  connect(group, &QButtonGroup::idClicked, this, [this](int id) { method_ = id; });
+  method_ = stored.method;
+  QLayout* form = makeFields(stored);
+  QWidget* methods = makeMethods();
 
   // Off by default: a plain renumber leaves every other word of the program as it is.
   chkReferences_ = new QCheckBox("Update &references", this);
@@ -113,6 +89,38 @@ frmRenumber::frmRenumber(SettingsStore& settings, QWidget* parent) : QDialog(par
   layout->addWidget(methods);
   layout->addWidget(chkReferences_);
   layout->addLayout(buttons);
+}
+
+QLayout* frmRenumber::makeFields(const NumberingSettings& stored) {
+  txtStart_ = field(this, "txtStart", stored.start);
+  txtStart_->setValidator(digitsFilter(txtStart_));
+  txtStep_ = field(this, "txtStep", stored.increment);
+  txtStep_->setValidator(digitsFilter(txtStep_));
+  txtSeqChr_ = field(this, "txtSeqChr", stored.character);
+  txtSkipLines_ = field(this, "txtSkipLines", stored.skipLines);
+
+  auto* form = new QFormLayout;
+  form->addRow("Start &Number", txtStart_);
+  form->addRow("&Increment", txtStep_);
+  form->addRow("Sequence &Chr", txtSeqChr_);
+  form->addRow("Skip LInes Starting &With", txtSkipLines_);
+  return form;
+}
+
+QWidget* frmRenumber::makeMethods() {
+  auto* methods = new QGroupBox("Method", this);
+  auto* methodLayout = new QVBoxLayout(methods);
+  auto* group = new QButtonGroup(this);
+  for (int i = 0; i < 3; ++i) {
+    auto* option = new QRadioButton(QString::fromLatin1(kMethodCaptions[i]), methods);
+    option->setObjectName(QStringLiteral("Option1_%1").arg(i));
+    group->addButton(option, i);
+    methodLayout->addWidget(option);
+    Option1_[i] = option;
+  }
+  Option1_[method_]->setChecked(true);
+  connect(group, &QButtonGroup::idClicked, this, [this](int id) { method_ = id; });
+  return methods;
 }
 
 void frmRenumber::done(int result) {
@@ -168,15 +176,14 @@ void frmRenumber::onOK() {
     dialogs().message(kRenumberFailed, kAppTitle, Buttons::Ok, Icon::Exclamation);
     return;
   }
-  const auto result = runDocumentPass(target, nullptr, this,
-                                      [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-                                        return runRenumber(in, out, request, monitor);
-                                      });
-  if (result && result->outcome == PassOutcome::Completed) {
-    target.reloadDocument(target.outputWorkFile(), ReloadFormat::Plain);
-    target.setFileUndoable(true);
-    notifyPassDone(target, PassKind::KeepsMotion);
-  }
+  PassRun run;
+  run.parent = this;
+  run.output = ReloadFormat::Plain;
+  run.notify = PassKind::KeepsMotion;
+  const auto result =
+      runDocumentPass(target, run, [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return runRenumber(in, out, request, monitor);
+      });
   if (result && (result->outcome == PassOutcome::Completed || result->outcome == PassOutcome::Failed)) accept();
 }
 

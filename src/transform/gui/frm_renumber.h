@@ -1,16 +1,16 @@
 #pragma once
 // The "Renumber File" dialog: start number, increment, method, sequence character, the
 // characters that mark lines to skip and "Update references", kept in the settings section
-// "Numbering". OK renumbers
-// the operation range and closes the dialog.
+// "Numbering". OK renumbers the operation range and closes the dialog.
 #include <QDialog>
 #include <array>
 
-#include "platform/settings_store.h"
+#include "platform/settings_table.h"
 #include "transform/operation_range.h"
 
 class QCheckBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -38,12 +38,14 @@ class frmRenumber : public QDialog {
   void done(int result) override;
 
  private:
+  QLayout* makeFields(const NumberingSettings& stored);
+  QWidget* makeMethods();
   void onOK();
   void saveSettings();
 
   SettingsStore& settings_;
   TransformTarget* target_ = nullptr;
-  int method_ = 2;
+  int method_ = 0;  // 0 to 2, from the settings
   transform::OperationRange range_;
 
   QLineEdit* txtStart_;

@@ -68,6 +68,30 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
   setWindowTitle("Search And Replace");
   setWindowModality(Qt::ApplicationModal);
 
+  // Made in this order, which is the order Tab goes through them.
+  QLayout* fields = makeFields();
+  QLayout* checks = makeChecks();
+  QLayout* buttons = makeButtons();
+  auto* help = new QLabel(kSearchHelpLine, this);
+  help->setObjectName("lblHelp");
+  help->setWordWrap(true);
+  lblRange_ = new QLabel(this);
+  lblRange_->setObjectName("lblRange");
+  lblStatus_ = new QLabel(this);
+  lblStatus_->setObjectName("lblStatus");
+  progReplace_ = new QProgressBar(this);
+  progReplace_->setObjectName("progReplace");
+  progReplace_->hide();
+  auto* left = new QVBoxLayout;
+  left->addLayout(fields);
+  left->addLayout(checks);
+  for (QWidget* w : std::initializer_list<QWidget*>{help, lblRange_, lblStatus_, progReplace_}) left->addWidget(w);
+  auto* top = new QHBoxLayout(this);
+  top->addLayout(left, 1);
+  top->addLayout(buttons);
+}
+
+QLayout* frmSearch::makeFields() {
   cboFind_ = historyBox(this, "cboFind");
   cboReplace_ = historyBox(this, "cboReplace");
   auto* fields = new QGridLayout;
@@ -79,7 +103,10 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
   fields->addWidget(cboFind_, 0, 1);
   fields->addWidget(replaceLabel, 1, 0);
   fields->addWidget(cboReplace_, 1, 1);
+  return fields;
+}
 
+QLayout* frmSearch::makeChecks() {
   auto* checks = new QVBoxLayout;
   for (int i = 0; i < 3; ++i) {
     auto* box = new QCheckBox(QString::fromLatin1(kChecks[i].caption), this);
@@ -89,7 +116,10 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
     chkSearchMethod_[i] = box;
     checks->addWidget(box);
   }
+  return checks;
+}
 
+QLayout* frmSearch::makeButtons() {
   cmdOK_ = button(this, "cmdOK", "OK", "Accepts entries for use with F3 and F4 keys.");
   cmdOK_->setDefault(true);
   cmdReplaceAll_ = button(this, "cmdReplaceAll", "Replace &All", "Makes all replacements within current range.");
@@ -105,28 +135,7 @@ frmSearch::frmSearch(SettingsStore& settings, QWidget* parent) : QDialog(parent)
   connect(cmdHighlight_, &QPushButton::clicked, this, guarded([this] { onHighlight(); }));
   connect(cmdUndo_, &QPushButton::clicked, this, guarded([this] { onUndo(); }));
   connect(cmdCancel_, &QPushButton::clicked, this, guarded([this] { onCancel(); }));
-
-  auto* help = new QLabel(kSearchHelpLine, this);
-  help->setObjectName("lblHelp");
-  help->setWordWrap(true);
-  lblRange_ = new QLabel(this);
-  lblRange_->setObjectName("lblRange");
-  lblStatus_ = new QLabel(this);
-  lblStatus_->setObjectName("lblStatus");
-  progReplace_ = new QProgressBar(this);
-  progReplace_->setObjectName("progReplace");
-  progReplace_->hide();
-
-  auto* left = new QVBoxLayout;
-  left->addLayout(fields);
-  left->addLayout(checks);
-  left->addWidget(help);
-  left->addWidget(lblRange_);
-  left->addWidget(lblStatus_);
-  left->addWidget(progReplace_);
-  auto* top = new QHBoxLayout(this);
-  top->addLayout(left, 1);
-  top->addLayout(buttons);
+  return buttons;
 }
 
 frmSearch::~frmSearch() {
@@ -258,22 +267,20 @@ void frmSearch::runPass(bool highlight) {
     request.flags = flags_;
     request.range = range_.lines;
     request.displayLineCount = target.lineCount();
-    const RichTextFrame frame = richTextFrameOf(target.passFrame());
+    const PassFrame frame = target.passFrame();
+    PassRun run;
+    run.bar = progReplace_;
+    run.parent = this;
     std::optional<PassResult> result;
     {
       const ButtonsHeld held(*this, cmdCancel_);
-      result = runDocumentPass(target, progReplace_, this,
-                               [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
-                                 return highlight ? runHighlightAll(in, out, request, frame, monitor)
-                                                  : runReplaceAll(in, out, request, frame, monitor);
-                               });
+      result = runDocumentPass(target, run, [&](const std::string& in, const std::string& out, PassMonitor& monitor) {
+        return highlight ? runHighlightAll(in, out, request, frame, monitor)
+                         : runReplaceAll(in, out, request, frame, monitor);
+      });
     }
     if (!loaded_) cmdUndo_->setEnabled(false);  // cancelled and unloaded while the pass ran
     if (!result || result->outcome != PassOutcome::Completed) return;
-    if (result->reload) {
-      target.reloadDocument(target.outputWorkFile(), ReloadFormat::Rich);
-      target.setFileUndoable(true);
-    }
     lblStatus_->setText(fromBytes(result->statusLabel));
   } catch (const AppError& e) {
     dialogs().message(highlight ? highlightCommandError(e.number(), e.description())

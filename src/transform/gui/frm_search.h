@@ -18,6 +18,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QProgressBar;
 class QPushButton;
 
@@ -54,6 +55,9 @@ class frmSearch : public QDialog {
   void reject() override;  // Esc and the close box act as Cancel
 
  private:
+  QLayout* makeFields();
+  QLayout* makeChecks();
+  QLayout* makeButtons();
   void load();
   void unload();
   void bind(TransformTarget& target);

@@ -7,8 +7,6 @@
 
 #include "format/pass_frame.h"
 #include "transform/find_next.h"
-#include "transform/rich_text_frame.h"
-#include "transform/scheme_frame.h"
 
 namespace lathwick::gui {
 
@@ -27,8 +25,8 @@ class TransformTarget : public transform::SearchTarget {
   // Writes the document as plain text (CR LF) to `path`; false when it could not be written.
   virtual bool savePlainText(const std::string& path) = 0;
   // ReloadDocument: the current contents go to the undo file, `path` is loaded, the caret line
-  // and the first visible line stay where they were.
-  virtual void reloadDocument(const std::string& path, ReloadFormat format) = 0;
+  // and the first visible line stay where they were. False when the snapshot or the load failed.
+  virtual bool reloadDocument(const std::string& path, ReloadFormat format) = 0;
   virtual void setFileUndoable(bool undoable) = 0;
   // The editing undo (a file undo when FileUndoable is set).
   virtual void undo() = 0;
@@ -45,6 +43,5 @@ class TransformTarget : public transform::SearchTarget {
   virtual std::string outputWorkFile() const = 0;
 };
 
-using transform::richTextFrameOf;
 
 }  // namespace lathwick::gui

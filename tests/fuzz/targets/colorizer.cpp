@@ -24,10 +24,10 @@ void colorizeBothViews(const SchemeRecord& scheme, std::string_view program) {
   const std::string out = scratchFile("colorize-out.rtf");
   writeFile(in, program);
   for (const ColorizeView view : {ColorizeView::Modes, ColorizeView::Codes}) {
-    const ColorizeResult r = colorizeFile(scheme, view, in, out, silentMonitor());
-    FUZZ_CHECK(r.outcome != ColorizeOutcome::Cancelled && r.outcome != ColorizeOutcome::NoInput);
-    if (r.outcome == ColorizeOutcome::Failed) FUZZ_CHECK(!r.message().empty());
-    if (r.outcome == ColorizeOutcome::Done) readRtf(readFile(out));
+    const PassResult r = colorizeFile(scheme, view, in, out, silentMonitor());
+    FUZZ_CHECK(r.outcome != PassOutcome::Cancelled && r.outcome != PassOutcome::NoInput);
+    if (r.outcome == PassOutcome::Failed) FUZZ_CHECK(!r.message.empty());
+    if (r.outcome == PassOutcome::Completed) readRtf(readFile(out));
   }
 }
 

@@ -24,7 +24,6 @@
 #include "transform/operate.h"
 #include "transform/renumber.h"
 #include "transform/rich_text_escape.h"
-#include "transform/scheme_frame.h"
 #include "transform/search_match.h"
 #include "transform/search_pass.h"
 #include "transform/spaces.h"
@@ -34,8 +33,8 @@ namespace lathwick::fuzz {
 namespace {
 using namespace transform;
 
-const RichTextFrame& frame() {
-  static const RichTextFrame f = richTextFrameOf(makePassFrame(bundledSchemes().front()));
+const PassFrame& frame() {
+  static const PassFrame f = makePassFrame(bundledSchemes().front());
   return f;
 }
 
