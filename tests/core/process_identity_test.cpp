@@ -1,23 +1,11 @@
 // A lock names the process that holds it so exactly that a reused process id (after a crash, or
 // in the next boot after a power cut) is not taken for the editor that wrote it.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include "platform/process_identity.h"
+#include "support/ended_process.h"
 
 using namespace lathwick;
-
-namespace {
-// The id of a process that has ended and been reaped.
-long endedProcessId() {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(0);
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return static_cast<long>(child);
-}
-}  // namespace
+using lathwick::test::endedProcessId;
 
 TEST(ProcessIdentity, ThisProcessRunsAnEndedOneDoesNot) {
   const ProcessIdentity self = currentProcessIdentity();

@@ -1,33 +1,21 @@
 // The recovery folder: each editor's session with its lock, the copies written and removed, and
 // at the next start the documents of editors that ended without closing them, and only those.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <filesystem>
 
 #include "document/recovery_store.h"
 #include "platform/atomic_file.h"
+#include "support/ended_process.h"
 #include "support/temp_dir.h"
 
 using namespace lathwick;
+using lathwick::test::crashedEditor;
 using lathwick::test::readBytes;
 using lathwick::test::TempDir;
 namespace fs = std::filesystem;
 
 namespace {
-// The identity of an editor that crashed: its process has ended.
-ProcessIdentity crashedEditor() {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(0);
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  ProcessIdentity ended = currentProcessIdentity();
-  ended.pid = static_cast<long>(child);
-  return ended;
-}
-
 RecoveryIndex indexFor(const std::string& path, std::int64_t time, RecoveredKind kind = RecoveredKind::Plain) {
   RecoveryIndex index;
   index.originalPath = path;

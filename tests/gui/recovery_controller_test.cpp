@@ -7,8 +7,6 @@
 #include <QThread>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <filesystem>
 
@@ -17,6 +15,7 @@
 #include "frame_fixture.h"
 #include "shell/gui/frm_recover.h"
 #include "shell/gui/recovery_controller.h"
+#include "support/ended_process.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
@@ -26,15 +25,7 @@ using gui::RecoveryChoice;
 namespace fs = std::filesystem;
 
 namespace {
-ProcessIdentity crashedEditor() {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(0);
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  ProcessIdentity ended = currentProcessIdentity();
-  ended.pid = static_cast<long>(child);
-  return ended;
-}
+using lathwick::test::crashedEditor;
 
 class RecoveryTest : public FrameTest {
  protected:

@@ -6,23 +6,14 @@
 #include <memory>
 
 #include "document/gui/rich_text_box.h"
+#include "gui_app.h"
 
 namespace lathwick::test {
-
-// The application object lives until the process ends: destroying it from the exit handlers,
-// after Qt's own globals are gone, crashes.
-inline void ensureApplication() {
-  if (QApplication::instance()) return;
-  static int argc = 1;
-  static char name[] = "lathwick_gui_tests";
-  static char* argv[] = {name, nullptr};
-  new QApplication(argc, argv);  // deliberately never deleted
-}
 
 class RichTextBoxTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ensureApplication();
+    testApp();
     box = std::make_unique<RichTextBox>();
     box->resize(400, 300);
     box->show();
