@@ -27,10 +27,8 @@ TEST_F(FrameTest, AnExceptionInsideACommandIsReportedAndTheDocumentsStay) {
   });
   dialogs.messages.clear();
   trigger("mnuAbout");
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, "The error 51 Internal error occurred.");
-  EXPECT_EQ(dialogs.messages[0].caption, "Lathwick");
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Exclamation);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{"The error 51 Internal error occurred.", "Lathwick",
+                                                             gui::Buttons::Ok, gui::Icon::Exclamation}}));
   EXPECT_EQ(frame->statusPanels().text("Stat"), "Press F1 for help.");
 
   // The editor goes on: the document is as it was and other commands still run.

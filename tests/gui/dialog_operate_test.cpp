@@ -95,9 +95,8 @@ TEST_F(OperateDialog, ValidationMessagesInOrderLeaveTheDialogOpenAndDivisionByZe
   QComboBox* op = box("cboOperators");
   op->setCurrentIndex(op->findText("/"));
   emit op->activated(op->currentIndex());
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, "Division by zero not allowed.");
-  EXPECT_EQ(dialogs.messages[0].icon, Icon::Information);
+  EXPECT_EQ(dialogs.messages,
+            (std::vector<test::Message>{{"Division by zero not allowed.", "Lathwick", Buttons::Ok, Icon::Information}}));
   EXPECT_EQ(op->currentText(), "+");
 }
 

@@ -41,10 +41,8 @@ TEST_F(DiskChangeTest, YesReloadsTheFileAndUndoBringsTheEditorsTextBack) {
   QEvent activate(QEvent::WindowActivate);
   QApplication::sendEvent(frame.get(), &activate);
   QApplication::processEvents();
-  ASSERT_EQ(asked(), 1u);
-  EXPECT_EQ(dialogs.messages[0].caption, kDiskChangeCaption);
-  EXPECT_EQ(dialogs.messages[0].text, reloadQuestion(path, false));
-  EXPECT_EQ(dialogs.messages[0].buttons, gui::Buttons::YesNo);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{reloadQuestion(path, false), kDiskChangeCaption,
+                                                             gui::Buttons::YesNo, gui::Icon::Question}}));
   EXPECT_EQ(e->text(), "G00 X0\r\nG01 X50. F300\r\nM30\r\n");
   EXPECT_FALSE(e->record().changed);
   EXPECT_EQ(e->record().lineEnds, LineEnds::Lf);

@@ -93,14 +93,11 @@ TEST_F(DocumentPassTest, OtherOutcomesAreToldAndLeaveTheDocument) {
   EXPECT_EQ(doc.reloads, 0);
   EXPECT_FALSE(doc.fileUndoable);
   EXPECT_TRUE(heard.empty());
-  ASSERT_EQ(dialogs.messages.size(), 3u) << "no input is not told";
-  EXPECT_EQ(dialogs.messages[0].text, kCancelledMessage);
-  EXPECT_EQ(dialogs.messages[0].caption, kCancelledTitle);
-  EXPECT_EQ(dialogs.messages[0].icon, Icon::Information);
-  EXPECT_EQ(dialogs.messages[1].text, "refused");
-  EXPECT_EQ(dialogs.messages[1].caption, "Lathwick");
-  EXPECT_EQ(dialogs.messages[2].text, "The error 6 Overflow occurred during the operation.");
-  EXPECT_EQ(dialogs.messages[2].icon, Icon::Exclamation);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{  // no input is not told
+                                 {kCancelledMessage, kCancelledTitle, Buttons::Ok, Icon::Information},
+                                 {"refused", "Lathwick", Buttons::Ok, Icon::Information},
+                                 {"The error 6 Overflow occurred during the operation.", "Lathwick", Buttons::Ok,
+                                  Icon::Exclamation}}));
 }
 
 TEST_F(DocumentPassTest, ADocumentThatCannotBeWrittenRunsNothing) {

@@ -66,10 +66,8 @@ TEST_F(PrintTest, PlainPrintGivesPagesWithTheHeadingAndAsksAboutTheSelection) {
   e->richTextBox().setSelLength(static_cast<long>(std::string("N1 G01 X1\r\nN2 G01 X2").size()));
   dialogs.answers.push_back(gui::Answer::Yes);
   trigger("mnuPrintPlain");
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, kPrintSelectionQuestion);
-  EXPECT_EQ(dialogs.messages[0].caption, kPrintingTitle);
-  EXPECT_EQ(dialogs.messages[0].buttons, gui::Buttons::YesNo);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{kPrintSelectionQuestion, kPrintingTitle,
+                                                             gui::Buttons::YesNo, gui::Icon::None}}));
   text = pdfText(pdf);
   EXPECT_NE(text.find("N2 G01 X2"), std::string::npos);
   EXPECT_EQ(text.find("N3 G01"), std::string::npos) << text;
@@ -127,9 +125,9 @@ TEST_F(PrintTest, AMissingPrintProgramIsAskedForOnceAndThenUsed) {
   ASSERT_EQ(dialogs.requests.size(), opened + 1);
   EXPECT_EQ(dialogs.requests.back().title, gui::kFindPrinterTitle);
   EXPECT_EQ(dialogs.requests.back().fileName, "Wordpad");
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, "Wordpad was not located.\nPlease try to print again and then locate Wordpad.exe");
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Exclamation);
+  EXPECT_EQ(dialogs.messages,
+            (std::vector<test::Message>{{"Wordpad was not located.\nPlease try to print again and then locate Wordpad.exe",
+                                         "", gui::Buttons::Ok, gui::Icon::Exclamation}}));
 
   // A program that copies the print file it is given where the test can see it.
   const std::string seen = files.file("seen.rtf");

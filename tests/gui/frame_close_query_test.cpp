@@ -21,11 +21,8 @@ TEST_F(FrameTest, CloseQueryCancelKeepsTheWindowNoDropsTheChangesAndYesSavesUnde
   e->rtfTextBox().replaceSelection("X");
   dialogs.answers = {Answer::Cancel};
   trigger("mnuClose");
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, "The text in [" + caption(e) + kQuestionTail);
-  EXPECT_EQ(dialogs.messages[0].caption, "Lathwick");
-  EXPECT_EQ(dialogs.messages[0].buttons, gui::Buttons::YesNoCancel);
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Exclamation);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{"The text in [" + caption(e) + kQuestionTail, "Lathwick",
+                                                             gui::Buttons::YesNoCancel, gui::Icon::Exclamation}}));
   EXPECT_EQ(frame->editors().size(), 1u);
   dialogs.answers = {Answer::No};
   trigger("mnuClose");

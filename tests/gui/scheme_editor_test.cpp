@@ -142,10 +142,8 @@ TEST_F(SchemeEditorTest, ClosingAsksOnlyAfterChanges) {
   edit();
   dialogs.answers.push_back(gui::Answer::No);
   form->close();
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, kSettingsChangedMessage);
-  EXPECT_EQ(dialogs.messages[0].buttons, gui::Buttons::YesNo);
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Information);
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{kSettingsChangedMessage, "", gui::Buttons::YesNo,
+                                                             gui::Icon::Information}}));
   EXPECT_EQ(readBytes(host.data), before);  // No keeps the file as it was
 
   open();

@@ -3,6 +3,7 @@
 // program's dialogs for as long as it lives.
 #include <deque>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,11 @@ class ScriptedDialogs : public gui::Dialogs {
     std::string text, caption;
     gui::Buttons buttons;
     gui::Icon icon;
+    bool operator==(const Message&) const = default;
+    friend void PrintTo(const Message& m, std::ostream* os) {
+      *os << "{\"" << m.text << "\", \"" << m.caption << "\", buttons " << static_cast<int>(m.buttons) << ", icon "
+          << static_cast<int>(m.icon) << "}";
+    }
   };
   std::deque<gui::Answer> answers;               // default: Ok / Cancel for questions
   std::deque<std::optional<std::string>> files;  // default: cancelled
@@ -52,5 +58,6 @@ class ScriptedDialogs : public gui::Dialogs {
  private:
   gui::ScopedDialogs installed_{*this};
 };
+using Message = ScriptedDialogs::Message;
 
 }  // namespace lathwick::test
