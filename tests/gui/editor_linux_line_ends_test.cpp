@@ -1,22 +1,15 @@
 // Programs as Linux keeps them (LF line ends) in the editor, and viewing that changes nothing:
 // an LF program opens as lines and colours without a word, Save writes LF back; a colour view
-// keeps the document's final line break; Ctrl+Z takes back a transformation; the keys come back
-// to the document after a pass with the progress form; new windows open inside the frame.
+// keeps the document's final line break; the keys come back to the document after a pass with
+// the progress form; new windows open inside the frame.
 #include <QApplication>
 #include <QFontInfo>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <algorithm>
 
 #include "document/document_table.h"
 #include "document/line_convention.h"
 #include "frame_fixture.h"
 #include "document/gui/rich_text_box.h"
 #include "workspace/gui/menu_set.h"
-#include "support/cli_runner.h"
-#include "transform/gui/frm_renumber.h"
 
 using namespace lathwick;
 using lathwick::test::FrameTest;
@@ -98,39 +91,6 @@ TEST_F(LinuxLineEndsTest, AColourViewThenSaveLeavesTheFileByteIdentical) {
     EXPECT_EQ(readBytes(path), bytes);
     trigger("mnuClose");
   }
-}
-
-TEST_F(LinuxLineEndsTest, CtrlZAfterRenumberRestoresTheTextUntilAHandEdit) {
-  start();
-  const std::string path = files.write("p.nc", "%\nG00 X0\nG01 X1\n");
-  gui::frmEditor* e = openFile(path);
-  const std::string before = e->rtfTextBox().text();
-  trigger("mnuResequence");
-  auto* dialog = frame->findChild<gui::frmRenumber*>();
-  ASSERT_NE(dialog, nullptr);
-  dialog->findChild<QLineEdit*>("txtStart")->setText("10");
-  dialog->findChild<QLineEdit*>("txtStep")->setText("10");
-  dialog->findChild<QRadioButton*>("Option1_2")->click();
-  dialog->findChild<QPushButton*>("cmdOK")->click();
-  QApplication::processEvents();
-  ASSERT_NE(e->rtfTextBox().text(), before);
-  ASSERT_TRUE(e->FileUndoable());
-  QWidget* text = e->rtfTextBox().widget();
-  test::keyClick(text, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(e->rtfTextBox().text(), before);
-  EXPECT_FALSE(e->FileUndoable());
-  save();
-  EXPECT_EQ(readBytes(path), "%\nG00 X0\nG01 X1\n");
-
-  // After a hand edit Ctrl+Z is the control's own undo of that edit.
-  trigger("mnuAddSpaces");
-  e->rtfTextBox().setSelection(0, 0);
-  e->rtfTextBox().replaceSelection("(A)");
-  QApplication::processEvents();
-  const std::string spaced = e->rtfTextBox().text().substr(3);
-  EXPECT_FALSE(e->FileUndoable());
-  test::keyClick(text, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(e->rtfTextBox().text(), spaced);
 }
 
 TEST_F(LinuxLineEndsTest, TheKeysComeBackToTheDocumentAfterAPassWithTheProgressForm) {

@@ -16,7 +16,7 @@ using namespace lathwick;
 using lathwick::test::child;
 using TransformsTest = lathwick::test::FrameTest;
 
-TEST_F(TransformsTest, F3AndF4FindAndReplaceInTheActiveDocument) {
+TEST_F(TransformsTest, F3AndF4WorkThroughTheActiveDocumentThenSayCompleteOnceAndStartAgain) {
   start();
   gui::frmEditor* e = openFile(files.write("p.nc", "X1 Y1\r\nX1\r\n"));
   trigger("mnuFind");  // no find text yet: the dialog comes up
@@ -33,12 +33,24 @@ TEST_F(TransformsTest, F3AndF4FindAndReplaceInTheActiveDocument) {
   EXPECT_EQ(e->rtfTextBox().text(), "X5 Y1\r\nX1\r\n");
   EXPECT_EQ(e->rtfTextBox().selStart(), 7);
   EXPECT_TRUE(e->record().changed);
+  trigger("mnuReplace");
+  EXPECT_EQ(e->rtfTextBox().text(), "X5 Y1\r\nX5\r\n");
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(dialogs.messages[0].text, "Search complete.");
+  EXPECT_TRUE(search->searchState().findText().empty());
+  trigger("mnuFind");  // the entries went with the completed search: the dialog again
+  EXPECT_TRUE(search->isVisible());
+  EXPECT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_EQ(child<QComboBox>(search, "cboFind")->itemText(0), "X1");  // history, newest first
 }
 
-TEST_F(TransformsTest, RenumberActsOnTheSelectedLinesAndUndoBringsThemBack) {
+// On a program with Linux line ends: Ctrl+Z takes the renumbering back until a hand edit, after
+// which it is the control's own undo of that edit; the file keeps its line ends.
+TEST_F(TransformsTest, RenumberActsOnTheSelectedLinesAndCtrlZBringsThemBackUntilAHandEdit) {
+  const std::string path = files.write("p.nc", "%\nG00 X0\nG01 X1\nG01 X2\n");
   const std::string text = "%\r\nG00 X0\r\nG01 X1\r\nG01 X2\r\n";
   start();
-  gui::frmEditor* e = openFile(files.write("p.nc", text));
+  gui::frmEditor* e = openFile(path);
   e->rtfTextBox().setSelection(e->rtfTextBox().lineIndex(1), e->rtfTextBox().lineIndex(3) - e->rtfTextBox().lineIndex(1) + 2);
   trigger("mnuResequence");
   gui::frmRenumber* dialog = frame->findChild<gui::frmRenumber*>();
@@ -53,12 +65,24 @@ TEST_F(TransformsTest, RenumberActsOnTheSelectedLinesAndUndoBringsThemBack) {
   EXPECT_TRUE(e->FileUndoable());
   EXPECT_TRUE(frame->toolButton("Undo")->isEnabled());
   e->record().changed = false;  // as after a save: Undo must leave the flag as it finds it
-  trigger("mnuUndo");
+  QWidget* control = e->rtfTextBox().widget();
+  lathwick::test::keyClick(control, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(e->rtfTextBox().text(), text);
   EXPECT_FALSE(e->record().changed);
   EXPECT_FALSE(e->FileUndoable());  // once only
   EXPECT_FALSE(frame->menuAction("mnuUndo")->isEnabled());
   EXPECT_FALSE(frame->toolButton("Undo")->isEnabled());
+  trigger("mnuSave");
+  EXPECT_EQ(lathwick::test::readBytes(path), "%\nG00 X0\nG01 X1\nG01 X2\n");
+
+  trigger("mnuAddSpaces");
+  e->rtfTextBox().setSelection(0, 0);
+  e->rtfTextBox().replaceSelection("(A)");
+  QApplication::processEvents();
+  const std::string spaced = e->rtfTextBox().text().substr(3);
+  EXPECT_FALSE(e->FileUndoable());
+  lathwick::test::keyClick(control, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(e->rtfTextBox().text(), spaced);
 }
 
 TEST_F(TransformsTest, SpacesAndTheJunkFilterThroughTheOptionsMenu) {

@@ -109,7 +109,7 @@ TEST_F(SendToTest, TheDialogShowsItsControlsLabelsAndTooltips) {
   EXPECT_EQ(child<QLineEdit>(form, "txtExePath")->text().toStdString(), recorder);
 }
 
-TEST_F(SendToTest, AddRefusesAMissingProgramAndSaveADuplicateTitleWithTheProgramsMessages) {
+TEST_F(SendToTest, AddRefusesAMissingProgramAndAddAndSaveWriteTheList) {
   start();
   trigger("mnuNew");
   gui::frmSendTo* form = openList();
@@ -117,12 +117,9 @@ TEST_F(SendToTest, AddRefusesAMissingProgramAndSaveADuplicateTitleWithTheProgram
   EXPECT_TRUE(child<QPushButton>(form, "cmd1(0)")->isEnabled());
   type(form, "txtExePath", files.file("nowhere"));
   click(form, "cmd1(0)");
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text, "Specified program does not exist.\r\nPlease check path and file name.");
-  EXPECT_EQ(dialogs.messages[0].icon, gui::Icon::Information);
-  type(form, "txtExePath", "");
-  click(form, "cmd1(0)");
-  EXPECT_EQ(dialogs.messages.back().text, "The title and full path ar required.\r\nPlease enter information.");
+  EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{"Specified program does not exist.\r\nPlease check path "
+                                                             "and file name.", "Lathwick", gui::Buttons::Ok,
+                                                             gui::Icon::Information}}));
   EXPECT_FALSE(std::filesystem::exists(app.file("SendTo.dat")));
 
   add(form, "DNC", recorder, "");
@@ -136,11 +133,7 @@ TEST_F(SendToTest, AddRefusesAMissingProgramAndSaveADuplicateTitleWithTheProgram
   choose(form, 1);
   EXPECT_EQ(child<QLineEdit>(form, "txtParameters")->text(), "-b");
   EXPECT_FALSE(child<QPushButton>(form, "cmd1(2)")->isEnabled());
-  type(form, "txtTitle", "DNC");
   type(form, "txtParameters", "-c");
-  click(form, "cmd1(2)");
-  EXPECT_EQ(dialogs.messages.back().text, "Title is already in use.");
-  type(form, "txtTitle", "Backplot");
   click(form, "cmd1(2)");
   EXPECT_EQ(readBytes(app.file("SendTo.dat")),
             "2,0\r\n\"DNC\",\"" + recorder + "\",\"\"\r\n\"Backplot\",\"" + recorder + "\",\"-c\"\r\n");
@@ -212,10 +205,9 @@ TEST_F(SendToTest, SendingHandsTheSavedFileToTheProgramAsItsLastWordButNeverAnEm
   std::filesystem::remove(recorder);
   frame->toolButton("Comm")->trigger();  // the first program of the list, which cannot start now
   ASSERT_EQ(dialogs.messages.size(), 3u);
-  EXPECT_EQ(dialogs.messages[2].text,
-            "File not found\r\nUnable to shell this file.\r\nPlease check path and parameters in send-to list.");
-  EXPECT_EQ(dialogs.messages[2].buttons, gui::Buttons::Ok);
-  EXPECT_EQ(dialogs.messages[2].icon, gui::Icon::Information);
+  EXPECT_EQ(dialogs.messages[2], (test::Message{"File not found\r\nUnable to shell this file.\r\nPlease check path "
+                                                "and parameters in send-to list.", "Lathwick", gui::Buttons::Ok,
+                                                gui::Icon::Information}));
 }
 
 TEST_F(SendToTest, TheScriptsSendToSeesProgramAndFileAndAScriptErrorDoesNotStopTheSending) {
