@@ -34,20 +34,13 @@ TEST(Startup, DataFileBesideExecutableWithoutSettingIsUsedAndStored) {
   EXPECT_TRUE(r.errorMessage.empty());
 }
 
-TEST(Startup, StoredFolderWithoutSeparatorIsKeptWhenExecutableFolderLacksDataFile) {
+TEST(Startup, StoredFolderIsKeptUntilTheExecutableFolderHoldsTheDataFileAndFoldersCompareCaseSensitively) {
   Folders f;
   f.data.write("Lathwick.dat", "x");
   f.host.store.save("Startup", "app_path", f.data.str());  // no trailing separator
-  const auto r = lathwick::runStartup(f.host);
-  EXPECT_EQ(r.values.AppFolder, f.data.folder());
+  EXPECT_EQ(lathwick::runStartup(f.host).values.AppFolder, f.data.folder());
   EXPECT_EQ(f.host.store.get("Startup", "app_path"), f.data.folder());
-}
-
-TEST(Startup, ExecutableFolderWinsWhenItHoldsTheDataFileAndFoldersCompareCaseSensitively) {
-  Folders f;
   f.exe.write("Lathwick.dat", "x");
-  f.data.write("Lathwick.dat", "x");
-  f.host.store.save("Startup", "app_path", f.data.folder());
   EXPECT_EQ(lathwick::runStartup(f.host).values.AppFolder, f.exe.folder());
   // A stored folder that differs from the executable's only in case counts as another folder.
   std::string upper = f.exe.folder();

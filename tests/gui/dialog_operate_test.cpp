@@ -129,15 +129,4 @@ TEST_F(OperateDialog, AnyStoredSearchOptionKeepsCommentsOutOfTheOperation) {
   EXPECT_EQ(status(), "1 Operations made.");
 }
 
-TEST_F(OperateDialog, BareLineFeedsAreSentToTheJunkFilter) {
-  FakeDocument doc({"X1", "X2"});
-  doc.bareLineFeeds = true;
-  dialog->showFor(doc);
-  ok();
-  ASSERT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(dialogs.messages[0].text,
-            "This file format is not correct for this operation. Please use the junk filter under Options and try again.");
-  EXPECT_EQ(doc.reloads, 0);
-}
-
 }  // namespace

@@ -10,14 +10,11 @@
 using lathwick::FileKind;
 using lathwick::test::RichTextBoxTest;
 
-TEST_F(RichTextBoxTest, EmptyDocumentHasOneLine) {
-  EXPECT_EQ(box->lineCount(), 1);
+TEST_F(RichTextBoxTest, LinesAreSeparatedByCrLfAndExcludeTheirBreak) {
+  EXPECT_EQ(box->lineCount(), 1);  // an empty document has one line
   EXPECT_EQ(box->lineTextLength(0), 0);
   EXPECT_EQ(box->lineFromChar(0), 0);
   EXPECT_EQ(box->textBytes(), "");
-}
-
-TEST_F(RichTextBoxTest, LinesAreSeparatedByCrLfAndExcludeTheirBreak) {
   box->setTextBytes("N10 G00\r\nN20\r\n\r\nlast");
   EXPECT_EQ(box->lineCount(), 4);
   EXPECT_EQ(box->lineIndex(0), 0);
