@@ -233,7 +233,7 @@ StmtPtr Parser::callWithoutParentheses(const Token& start, ExprPtr lhs) {
     ExprPtr first = binaryRest(0, std::make_unique<ParenExpr>(std::move(c->args[0])));
     call->callee = std::move(c->callee);
     call->args.push_back(std::move(first));
-    while (accept(Tok::Comma)) call->args.push_back(expression());
+    while (accept(Tok::Comma)) call->args.push_back(argument());
   } else {
     call->callee = std::move(lhs);
     call->args = argumentList();
