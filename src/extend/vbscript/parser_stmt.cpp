@@ -407,7 +407,8 @@ StmtPtr Parser::reDimStatement() {
     if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
     item.var = nameNode(take(), true);
     expect(Tok::LParen, ce::kExpectedLParen);
-    item.bounds = argumentList();
+    do item.bounds.push_back(expression());  // every bound written: none may be left out
+    while (accept(Tok::Comma));
     expect(Tok::RParen, ce::kExpectedRParen);
     s->items.push_back(std::move(item));
   } while (accept(Tok::Comma));
