@@ -8,76 +8,31 @@
 // under the system's temporary folder (TMPDIR), so the flush costs what that disk costs.
 #include <benchmark/benchmark.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QMdiArea>
 #include <QTimer>
 #include <time.h>
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 #include <string>
 
-#include "document/document_table.h"
-#include "document/gui/frm_editor.h"
-#include "format/bundled_schemes.h"
-#include "format/scheme_data_file.h"
-#include "generated_program.h"
 #include "gui_bench_main.h"
-#include "platform/gui/dialogs.h"
-#include "platform/settings_store.h"
-#include "shell/gui/mdi_form.h"
+#include "gui_editor_fixture.h"
 #include "shell/gui/recovery_controller.h"
-#include "shell/startup.h"
 
 namespace {
 
 using namespace lathwick;
 
-class SilentDialogs : public gui::Dialogs {
- public:
-  gui::Answer message(const std::string& text, const std::string&, gui::Buttons, gui::Icon) override {
-    last = text;
-    ++count;
-    return gui::Answer::No;
-  }
-  std::optional<std::string> chooseFile(const gui::FileRequest&) override { return std::nullopt; }
-  void openInBrowser(const std::string&) override {}
-  int count = 0;
-  std::string last;
-};
-
-// A frame with the recovery controller and the program open in it.
+// The editor of the window benchmarks with the recovery controller and the program open in it.
 class Editor {
  public:
   Editor() {
-    const std::string app = folder_.path().string() + "/";
-    long n = 0;
-    for (const SchemeRecord& scheme : bundledSchemes()) writeSchemeRecord(app + "Lathwick.dat", ++n, scheme);
-    values_.AppFolder = app;
-    values_.DataFilePath = app + "Lathwick.dat";
-    setWorkFiles(values_, app);
-    values_.CurrentScheme = 1;
-    values_.VersionText = makeVersionText(kAppTitle, 0, 1);
-    settings_ = std::make_unique<SettingsStore>(app + "Lathwick.ini");
-    const std::string program = folder_.file("CAM1M.NC");
-    bench::writeProgram(program, bench::ProgramStyle::CamPost);
-    frame_ = std::make_unique<gui::MDIForm1>(values_, *settings_);
-    frame_->load();
-    frame_->resize(1024, 768);
-    frame_->show();
     // The quiet period never ends by itself here: each copy is asked for.
-    recovery_ = new gui::RecoveryController(*frame_, folder_.file("recovery") + "/", {1 << 30, 1 << 30});
-    document_ = frame_->LoadDoc(program);
+    recovery_ = new gui::RecoveryController(editor_.frame(), editor_.file("recovery") + "/", {1 << 30, 1 << 30});
+    document_ = editor_.open();
     QApplication::processEvents();
-  }
-  ~Editor() {
-    for (gui::frmEditor* e : frame_->editors()) e->record().changed = false;
-    frame_->mdiArea()->closeAllSubWindows();
-    QApplication::processEvents();
-    frame_.reset();
   }
 
   void edit() {
@@ -86,22 +41,17 @@ class Editor {
   }
   // Kept as rich text from now on: the document coloured by modes and named .RTF.
   void makeRich() {
-    frame_->menuAction("mnuModal", 0)->trigger();
-    QApplication::processEvents();
-    document_->record().fileName = folder_.file("CAM1M.RTF");
+    editor_.view(bench::kModes);
+    document_->record().fileName = editor_.file("CAM1M.RTF");
   }
   gui::RecoveryController& recovery() { return *recovery_; }
   gui::frmEditor& document() { return *document_; }
-  SilentDialogs dialogs;
+  const bench::CountingDialogs& dialogs() const { return editor_.dialogs; }
 
  private:
-  bench::ScratchFolder folder_{"lathwick-bench-gui-recovery"};
-  AppValues values_;
-  std::unique_ptr<SettingsStore> settings_;
-  std::unique_ptr<gui::MDIForm1> frame_;
+  bench::Editor editor_{"lathwick-bench-gui-recovery"};
   gui::RecoveryController* recovery_ = nullptr;  // owned by the frame
   gui::frmEditor* document_ = nullptr;
-  gui::ScopedDialogs installed_{dialogs};
 };
 
 std::unique_ptr<Editor> theEditor;
@@ -154,7 +104,7 @@ void timeCopies(benchmark::State& state) {
     longest.wall = std::max(longest.wall, holds.wall);
     longest.cpu = std::max(longest.cpu, holds.cpu);
   }
-  if (editor().dialogs.count) state.SkipWithError(("asked: " + editor().dialogs.last).c_str());
+  if (editor().dialogs().count) state.SkipWithError(("asked: " + editor().dialogs().last).c_str());
   if (!editor().recovery().session().hasDocuments()) state.SkipWithError("no copy was written");
   state.counters["longest_hold_ms"] = longest.wall;
   state.counters["longest_hold_cpu_ms"] = longest.cpu;

@@ -46,7 +46,8 @@ inline constexpr int kModes = 0, kCodes = 1;
 
 class Editor {
  public:
-  Editor() {
+  // `folderName`: the scratch folder under the system's temporary folder, one per benchmark.
+  explicit Editor(const std::string& folderName = "lathwick-bench-gui-editor") : folder_(folderName) {
     const std::string app = folder_.path().string() + "/";
     long n = 0;
     for (const SchemeRecord& scheme : bundledSchemes()) writeSchemeRecord(app + "Lathwick.dat", ++n, scheme);
@@ -82,10 +83,13 @@ class Editor {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+  gui::MDIForm1& frame() { return *frame_; }
+  // A file of the scratch folder (the program, the application folder's files).
+  std::string file(const std::string& name) const { return folder_.file(name); }
   CountingDialogs dialogs;
 
  private:
-  ScratchFolder folder_{"lathwick-bench-gui-editor"};
+  ScratchFolder folder_;
   AppValues values_;
   std::unique_ptr<SettingsStore> settings_;
   std::string program_;

@@ -312,6 +312,13 @@ class HeadThenFile : public detail::RtfByteSource {
   SourceFile& file_;
 };
 
+// A read buffer no larger than the file needs (at least a few kilobytes), up to `most`: a small
+// file must not cost a megabyte of cleared memory.
+std::size_t bufferFor(const SourceFile& file, std::size_t most) {
+  constexpr std::uint64_t kLeast = 4096;
+  return static_cast<std::size_t>(std::min<std::uint64_t>(most, std::max(kLeast, file.size() + 1)));
+}
+
 }  // namespace
 
 RtfFormatTable readRtf(std::string_view rtf, RtfTextSink& sink) {
@@ -337,13 +344,13 @@ RtfFormatTable readRtfFile(const std::string& path, RtfTextSink& sink, std::size
   }
   if (first == std::string::npos || std::string_view(head).substr(first, 5) != "{\\rtf") {
     RtfFormatTable table = plainText(head, sink, {});
-    std::string piece(kFileBuffer, '\0');
+    std::string piece(bufferFor(file, kFileBuffer), '\0');
     while (const std::size_t got = file.read(piece.data(), piece.size()))
       table = plainText(std::string_view(piece.data(), got), sink, std::move(table));
     return table;
   }
   HeadThenFile source(std::string_view(head).substr(first), file);
-  return Reader(source, bufferBytes, sink).run();
+  return Reader(source, bufferFor(file, bufferBytes), sink).run();
 }
 
 RtfFormatTable readRtfFile(const std::string& path, RtfTextSink& sink) { return readRtfFile(path, sink, kFileBuffer); }

@@ -17,7 +17,8 @@ RtfReaderState::RtfReaderState(RtfByteSource& source, std::size_t bufferBytes, R
     : p_(nullptr), end_(nullptr), source_(&source), sourceDone_(false), sink_(sink) {
   buffer_.resize(std::max(bufferBytes, 4 * kLookahead));
   p_ = end_ = buffer_.data();
-  text_.reserve(kDeliverAt + 16);
+  // Room for one hand-over of text, or for all the text of a file that fits the buffer.
+  text_.reserve(std::min(buffer_.size(), kDeliverAt) + 16);
   stack_.reserve(64);
 }
 

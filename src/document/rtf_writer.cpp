@@ -119,6 +119,8 @@ struct Tables {
 
 bool plainByte(unsigned char c) { return c >= 0x20 && c < 0x80 && c != '\\' && c != '{' && c != '}'; }
 
+// The writer hands its output on in pieces of about this size, so a large document is never
+// held twice in memory.
 constexpr std::size_t kPiece = 1 << 20;
 constexpr std::size_t kNoEnd = static_cast<std::size_t>(-1);
 
@@ -169,7 +171,15 @@ class TextWriter {
     indent_ = "\\li";
     appendNumber(indent_, view.indentTwips);
     indent_ += ' ';
-    out_.reserve(kPiece + 4096);
+    out_.reserve(firstReserve(view.text.size(), tables.header.size()));
+  }
+
+  // Room for the whole output of a small document (the text grows by its paragraph marks,
+  // attribute strings and escapes) or for one piece of a large one: a short write must not pay
+  // for a megabyte it never uses.
+  static std::size_t firstReserve(std::size_t textSize, std::size_t headerSize) {
+    const std::size_t estimate = headerSize + textSize + textSize / 2 + 64;
+    return std::min(kPiece + 4096, estimate);
   }
 
   void write() {

@@ -155,6 +155,26 @@ TEST_F(Fixture, MsgBoxAndInputBoxGoToTheHost) {
   EXPECT_EQ(eval("s"), "abc!");
 }
 
+TEST_F(Fixture, OmittedMsgBoxArgumentsTakeTheirDefaults) {
+  std::vector<std::pair<int, std::string>> boxes;
+  UiCallbacks ui;
+  ui.msgBox = [&boxes](const std::string&, int buttons, const std::string& title) {
+    boxes.emplace_back(buttons, title);
+    return 1;
+  };
+  engine.setUi(ui);
+  ASSERT_TRUE(engine.addCode("MsgBox \"a\", , \"Renumber\"\nr = MsgBox(\"b\", vbYesNo, )\nMsgBox \"c\", ,"));
+  const std::vector<std::pair<int, std::string>> want{{0, "Renumber"}, {4, "Lathwick"}, {0, "Lathwick"}};
+  EXPECT_EQ(boxes, want);
+}
+
+TEST_F(Fixture, AHostWritingToAnOmittedArgumentChangesNothingElse) {
+  // Swap writes its first argument back; left out, that must not reach later omitted ones.
+  ASSERT_TRUE(engine.addCode("On Error Resume Next\nSwap , 1\nErr.Raise 5, , \"d\"\ns = Err.Source"));
+  EXPECT_EQ(eval("s"), "VBScript runtime error");
+  EXPECT_EQ(eval("TypeName(Array(1, , 3)(1))"), "Empty");
+}
+
 TEST_F(Fixture, InterruptStopsARunawayLoopEvenUnderResumeNext) {
   engine.setInterruptError(kObjectError + 1, "Macro cancelled");
   std::thread stopper([&] {

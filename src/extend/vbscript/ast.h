@@ -47,6 +47,15 @@ class Expr {
 using ExprPtr = std::unique_ptr<Expr>;
 using ExprList = std::vector<ExprPtr>;
 
+// An argument left out (`F(a, , c)`, `S a, , c`, a trailing `,`) is passed as this one Empty
+// value, which callees tell apart by its address: built-in functions take it as not given, user
+// procedures as Empty in storage of their own. Nothing writes to it.
+inline Variant* omittedArgument() {
+  static Variant omitted;
+  return &omitted;
+}
+inline bool isOmitted(const Variant* v) { return v == omittedArgument(); }
+
 // Evaluates arguments into `pack` (references where allowed).
 void evalArgs(Frame& f, const ExprList& args, ArgPack& pack);
 // Plain values of arguments (for built-in functions).
@@ -127,6 +136,13 @@ class CallExpr : public Expr {
   Variant* reference(Frame& f, ArgPack& pack) const override;
   void assign(Frame& f, Variant v, bool isSet) const override;
   Variant invoke(Frame& f, bool statement) const;
+};
+
+// The place of an omitted argument: it refers to omittedArgument().
+class OmittedExpr : public Expr {
+ public:
+  Variant eval(Frame&) const override { return {}; }
+  Variant* reference(Frame&, ArgPack&) const override { return omittedArgument(); }
 };
 
 class UnaryExpr : public Expr {

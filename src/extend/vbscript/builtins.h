@@ -12,7 +12,7 @@ namespace lathwick::vbs::builtin {
 
 using Args = ArgList;
 
-inline bool given(const Args& a, size_t i) { return a.size() > i; }
+inline bool given(const Args& a, size_t i) { return a.size() > i && !a.omitted(i); }
 // Integer argument rounded half to even; Null -> 94.
 inline std::int32_t intArg(Runtime& rt, const Variant& v) {
   if (v.isNull()) raise(rt::kInvalidUseOfNull);

@@ -57,13 +57,13 @@ size_t findText(const std::string& hay, const std::string& needle, size_t from, 
 Variant fnInStr(Runtime& rt, Args& a) {
   size_t i = 0;
   std::int32_t start = 1;
+  // The start comes first and may be left out, so the two strings are counted here.
   if (a.size() >= 3) {
-    start = intArg(rt, a[0]);
+    if (given(a, 0)) start = intArg(rt, a[0]);
     if (start < 1) raise(rt::kInvalidProcedureCall);
     i = 1;
-  } else if (a.size() < 2) {
-    raise(rt::kWrongNumberOfArguments);
   }
+  if (a.size() < 2 || !given(a, i) || !given(a, i + 1)) raise(rt::kWrongNumberOfArguments, "InStr");
   const bool text = a.size() == 4 ? textCompare(rt, a, 3) : false;
   if (a[i].isNull() || a[i + 1].isNull()) return Variant::null();
   std::string hold1, hold2;
@@ -331,9 +331,10 @@ Variant fnUnescape(Runtime& rt, Args& a) {
   return Variant::str(std::move(out));
 }
 
+// InStr counts its own arguments: its optional start comes before the required strings.
 const Builtin kRows[] = {
     {"Len", 1, 1, fnLen},         {"Left", 2, 2, fnLeft},         {"Right", 2, 2, fnRight},
-    {"Mid", 2, 3, fnMid},         {"InStr", 2, 4, fnInStr},       {"InStrRev", 2, 4, fnInStrRev},
+    {"Mid", 2, 3, fnMid},         {"InStr", 0, 4, fnInStr},       {"InStrRev", 2, 4, fnInStrRev},
     {"LCase", 1, 1, fnLCase},     {"UCase", 1, 1, fnUCase},       {"LTrim", 1, 1, fnLTrim},
     {"RTrim", 1, 1, fnRTrim},     {"Trim", 1, 1, fnTrim},         {"Space", 1, 1, fnSpace},
     {"String", 2, 2, fnString},   {"StrReverse", 1, 1, fnStrReverse}, {"StrComp", 2, 3, fnStrComp},

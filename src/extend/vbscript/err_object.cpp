@@ -56,7 +56,7 @@ class ErrObject : public Object {
   }
 
   static void raiseError(Runtime& rt, const ArgRefs& args) {
-    if (args.empty() || args.size() > 5) raise(rt::kWrongNumberOfArguments);
+    if (args.empty() || isOmitted(args[0]) || args.size() > 5) raise(rt::kWrongNumberOfArguments);
     const Variant& n = *args[0];
     double d = toDouble(rt, n);
     d = bankersRound(d);

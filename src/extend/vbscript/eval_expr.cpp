@@ -37,6 +37,7 @@ size_t flatIndex(Runtime& rt, const ArrayData& a, const ArgRefs& idx) {
   if (!a.allocated() || idx.size() != a.upper.size()) raise(rt::kSubscriptOutOfRange);
   size_t flat = 0, stride = 1;
   for (size_t d = 0; d < idx.size(); ++d) {
+    if (isOmitted(idx[d])) raise(rt::kSubscriptOutOfRange);
     const Variant& iv = *idx[d];
     if (iv.isNull()) raise(rt::kInvalidUseOfNull);
     const std::int32_t i = toLong(rt, iv);

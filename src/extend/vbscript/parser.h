@@ -90,6 +90,7 @@ class Parser {
   ExprPtr unary();
   ExprPtr primary();
   ExprPtr postfix(ExprPtr e);
+  ExprPtr argument();
   ExprList argumentList();
   std::unique_ptr<NameExpr> nameNode(const Token& t, bool assigned);
   Variant constantLiteral();

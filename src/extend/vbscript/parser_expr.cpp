@@ -184,10 +184,17 @@ ExprPtr Parser::postfix(ExprPtr e) {
   }
 }
 
+// An argument, or an omitted one when nothing stands before the next comma, the closing
+// parenthesis or the end of the statement.
+ExprPtr Parser::argument() {
+  if (is(Tok::Comma) || is(Tok::RParen) || atStatementEnd()) return at<OmittedExpr>(cur());
+  return expression();
+}
+
 ExprList Parser::argumentList() {
   ExprList args;
   do {
-    args.push_back(expression());
+    args.push_back(argument());
   } while (accept(Tok::Comma));
   return args;
 }

@@ -233,7 +233,7 @@ StmtPtr Parser::callWithoutParentheses(const Token& start, ExprPtr lhs) {
     ExprPtr first = binaryRest(0, std::make_unique<ParenExpr>(std::move(c->args[0])));
     call->callee = std::move(c->callee);
     call->args.push_back(std::move(first));
-    while (accept(Tok::Comma)) call->args.push_back(expression());
+    while (accept(Tok::Comma)) call->args.push_back(argument());
   } else {
     call->callee = std::move(lhs);
     call->args = argumentList();
@@ -407,7 +407,8 @@ StmtPtr Parser::reDimStatement() {
     if (!is(Tok::Ident)) fail(ce::kExpectedIdent);
     item.var = nameNode(take(), true);
     expect(Tok::LParen, ce::kExpectedLParen);
-    item.bounds = argumentList();
+    do item.bounds.push_back(expression());  // every bound written: none may be left out
+    while (accept(Tok::Comma));
     expect(Tok::RParen, ce::kExpectedRParen);
     s->items.push_back(std::move(item));
   } while (accept(Tok::Comma));

@@ -114,8 +114,9 @@ Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef m
   std::vector<Variant*> slots(static_cast<size_t>(p.numSlots));
   for (size_t i = 0; i < slots.size(); ++i) slots[i] = &storage[i];
   for (size_t i = 0; i < p.params.size(); ++i) {
+    // An omitted argument is Empty in the procedure's own slot, ByRef or not.
     if (p.params[i].byVal) storage[i + 1] = *args[i];
-    else slots[i + 1] = args[i];
+    else if (!isOmitted(args[i])) slots[i + 1] = args[i];
   }
   for (const auto& [slot, bounds] : p.fixedArrays) {
     if (bounds.empty()) storage[static_cast<size_t>(slot)] = Variant::array(std::make_shared<ArrayData>());
@@ -137,9 +138,11 @@ Variant Runtime::callProcedure(const Procedure& p, const ArgRefs& args, ObjRef m
 }
 
 Variant Runtime::callBuiltin(const Builtin& b, const ArgRefs& args) {
-  const int n = static_cast<int>(args.size());
+  ArgList list(args);  // omitted arguments at the end count as not given
+  const int n = static_cast<int>(list.size());
   if (n < b.minArgs || n > b.maxArgs) raise(rt::kWrongNumberOfArguments, b.name);
-  ArgList list(args);
+  for (int i = 0; i < b.minArgs; ++i)
+    if (list.omitted(static_cast<size_t>(i))) raise(rt::kWrongNumberOfArguments, b.name);
   return b.fn(*this, list);
 }
 
@@ -271,7 +274,7 @@ Variant HostObject::invoke(Runtime&, int member, InvokeKind kind, const ArgRefs&
     }
   };
   for (size_t i = 0; i < args.size() && i < values.size(); ++i)
-    if (!same(values[i], *args[i])) *args[i] = std::move(values[i]);
+    if (!isOmitted(args[i]) && !same(values[i], *args[i])) *args[i] = std::move(values[i]);
   return r;
 }
 

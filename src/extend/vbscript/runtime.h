@@ -16,11 +16,15 @@
 
 namespace lathwick::vbs {
 
-// The arguments of a built-in function, read in place (a variable is not copied).
+// The arguments of a built-in function, read in place (a variable is not copied). Omitted
+// arguments at the end are not counted; one in the middle reads as Empty and says so.
 class ArgList {
  public:
-  explicit ArgList(const ArgRefs& refs) : refs_(refs) {}
-  size_t size() const { return refs_.size(); }
+  explicit ArgList(const ArgRefs& refs) : refs_(refs), size_(refs.size()) {
+    while (size_ > 0 && isOmitted(refs_[size_ - 1])) --size_;
+  }
+  size_t size() const { return size_; }
+  bool omitted(size_t i) const { return isOmitted(refs_[i]); }
   const Variant& operator[](size_t i) const { return *refs_[i]; }
   struct Iter {
     Variant* const* p;
@@ -32,15 +36,16 @@ class ArgList {
     bool operator!=(const Iter& o) const { return p != o.p; }
   };
   Iter begin() const { return {refs_.data()}; }
-  Iter end() const { return {refs_.data() + refs_.size()}; }
+  Iter end() const { return {refs_.data() + size_}; }
   std::vector<Variant> values() const {
     std::vector<Variant> v;
-    for (const Variant* r : refs_) v.push_back(*r);
+    for (size_t i = 0; i < size_; ++i) v.push_back(*refs_[i]);
     return v;
   }
 
  private:
   const ArgRefs& refs_;
+  size_t size_;
 };
 
 struct Builtin {

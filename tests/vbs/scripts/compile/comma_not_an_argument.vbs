@@ -1,0 +1,1 @@
+x = , 1   ' expect error 1023
