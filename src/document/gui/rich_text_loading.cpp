@@ -264,6 +264,12 @@ void RichTextBox::writeWholeRtf(const std::function<void(std::string_view)>& sin
   writeRtf({characterView(), {}, &strikes, indentTwips_, &runs}, table_, sink);
 }
 
+std::optional<RichTextBox::UnchangedDocument> RichTextBox::unchangedDocument() const {
+  const std::string_view text = characterView();
+  if (!loadedKnown_ || !pieces_.unchanged(text.size())) return std::nullopt;
+  return UnchangedDocument{text, &loadedRuns_, loadedStrikeouts_, table_, indentTwips_};
+}
+
 std::string RichTextBox::rtf() const {
   std::string rtf;
   writeWholeRtf([&rtf](std::string_view piece) { rtf += piece; });
