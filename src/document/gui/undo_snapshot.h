@@ -1,5 +1,5 @@
 #pragma once
-// The undo snapshot of a colour run, written while the colorizer runs: the document as it stands
+// The undo snapshot of a pass, written while the pass runs: the document as it stands
 // goes to a temporary beside the undo file on a helper thread, and takes the undo file's place
 // only when the run's result is loaded. Meanwhile the document takes no edits, so that what is
 // written is what the reload replaces; a run that ends without a result leaves the undo file as
