@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <type_traits>
 
 #include "platform/atomic_file.h"
 #include "platform/errors.h"
@@ -13,14 +14,21 @@ namespace lathwick {
 namespace {
 constexpr std::size_t kBlock = 1 << 16;
 
-// Calls `piece` with each block of the file.
+// Calls `piece` with each block of the file until it returns false.
 template <typename Piece>
 void readBlocks(const std::string& path, Piece piece) {
   std::FILE* f = std::fopen(nativePath(path).c_str(), "rb");
   if (!f) throw makeError(err::kFileNotFound);
   std::array<char, kBlock> buf;
   std::size_t n;
-  while ((n = std::fread(buf.data(), 1, buf.size(), f)) > 0) piece(std::string_view(buf.data(), n));
+  bool more = true;
+  while (more && (n = std::fread(buf.data(), 1, buf.size(), f)) > 0) {
+    if constexpr (std::is_void_v<decltype(piece(std::string_view()))>) {
+      piece(std::string_view(buf.data(), n));
+    } else {
+      more = piece(std::string_view(buf.data(), n));
+    }
+  }
   const bool failed = std::ferror(f) != 0;
   std::fclose(f);
   if (failed) throw makeError(err::kPathFileAccessError);
@@ -47,7 +55,10 @@ LineEnds lineEndsOf(std::string_view bytes) {
 
 LineEnds lineEndsOfFile(const std::string& path) {
   BreakScan scan;
-  readBlocks(path, [&scan](std::string_view block) { scan.add(block); });
+  readBlocks(path, [&scan](std::string_view block) {
+    scan.add(block);
+    return !scan.anyCr;  // a CR settles it
+  });
   return scan.ends();
 }
 
@@ -73,15 +84,25 @@ std::string withLineEnds(std::string_view crLfText, LineEnds ends) {
 }
 
 LineEnds copyAsCrLfTwin(const std::string& from, const std::string& to) {
-  const LineEnds ends = lineEndsOfFile(from);
-  if (ends == LineEnds::CrLf) {
-    if (!copyFile(from, to)) throw makeError(err::kPathFileAccessError);
-    return ends;
+  // One reading of the file: it is taken for Linux text (and its twin written) until a CR turns
+  // up; then it is not, and it is copied again byte for byte. A CR LF program shows its first
+  // CR in the first block, so either way the file is read about once.
+  {
+    AtomicFileWriter out(to, Durability::Scratch);
+    BreakScan scan;
+    readBlocks(from, [&](std::string_view block) {
+      scan.add(block);
+      if (scan.anyCr) return false;
+      out.write(linuxToCrLf(block));
+      return true;
+    });
+    if (!scan.anyCr) {
+      out.commit();
+      return scan.ends();  // text without LF is its own twin, and counts as CR LF
+    }
   }
-  AtomicFileWriter out(to, Durability::Scratch);
-  readBlocks(from, [&out](std::string_view block) { out.write(linuxToCrLf(block)); });
-  out.commit();
-  return ends;
+  if (!copyFile(from, to, Durability::Scratch)) throw makeError(err::kPathFileAccessError);
+  return LineEnds::CrLf;
 }
 
 void rewriteWithLineEnds(const std::string& path, LineEnds ends) {

@@ -28,22 +28,31 @@ void GWordFinder::normalise(std::string_view line) {
   cached_ = true;
 }
 
+namespace {
+
+// True when `word` followed by a blank occurs in `text`.
+bool followedByBlank(std::string_view text, std::string_view word) {
+  for (std::size_t at = inStr(1, text, word); at != 0; at = inStr(at + 1, text, word)) {
+    const std::size_t after = at - 1 + word.size();  // 0-based, just after the occurrence
+    if (after < text.size() && text[after] == ' ') return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 std::size_t GWordFinder::find(std::string_view line, std::string_view longForm, std::string_view shortForm) {
   matchLength_ = 0;
   const std::size_t longAt = inStr(1, line, longForm);
   if (longAt == 0 && (shortForm.empty() || inStr(1, line, shortForm) == 0)) return 0;
   normalise(line);
-  needle_.assign(longForm).push_back(' ');
-  if (longAt != 0 && normal_.find(needle_) != std::string::npos) {
+  if (longAt != 0 && followedByBlank(normal_, longForm)) {
     matchLength_ = longForm.size();
     return longAt;
   }
-  if (!shortForm.empty()) {
-    needle_.assign(shortForm).push_back(' ');
-    if (normal_.find(needle_) != std::string::npos) {
-      matchLength_ = shortForm.size();
-      return inStr(1, line, shortForm);
-    }
+  if (!shortForm.empty() && followedByBlank(normal_, shortForm)) {
+    matchLength_ = shortForm.size();
+    return inStr(1, line, shortForm);
   }
   return 0;
 }

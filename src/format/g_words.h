@@ -46,7 +46,6 @@ class GWordFinder {
  private:
   void normalise(std::string_view upperLine);
   std::string normal_;
-  std::string needle_;
   bool cached_ = false;
   std::size_t matchLength_ = 0;
 };

@@ -14,8 +14,8 @@ enum class GAction {
 };
 
 struct GWordRule {
-  const char* longForm;
-  const char* shortForm;
+  std::string_view longForm;
+  std::string_view shortForm;
   std::uint8_t code;
   GAction action;
 };

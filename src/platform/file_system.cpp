@@ -67,12 +67,12 @@ bool removeFile(const std::string& path) {
   return !fs::exists(nativePath(path), ec);
 }
 
-bool copyFile(const std::string& from, const std::string& to) {
+bool copyFile(const std::string& from, const std::string& to, Durability durability) {
   std::FILE* in = std::fopen(nativePath(from).c_str(), "rb");
   if (!in) return false;
   bool ok = true;
   try {
-    AtomicFileWriter out(to);
+    AtomicFileWriter out(to, durability);
     std::array<char, 65536> buf;
     size_t n;
     while ((n = std::fread(buf.data(), 1, buf.size(), in)) > 0) out.write(std::string_view(buf.data(), n));

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/atomic_file.h"
+
 namespace lathwick {
 
 std::string nativePath(std::string_view path);   // every "\" becomes "/"
@@ -15,7 +17,8 @@ bool isDirectory(const std::string& path);
 bool isReadOnlyFile(const std::string& path);
 std::optional<std::string> readWholeFile(const std::string& path);
 bool removeFile(const std::string& path);          // true when it is gone afterwards
-bool copyFile(const std::string& from, const std::string& to);  // atomic at the destination
+// Atomic at the destination; a work file the program makes for itself need not wait for the disk.
+bool copyFile(const std::string& from, const std::string& to, Durability durability = Durability::Durable);
 long long fileSize(const std::string& path);       // -1 when it cannot be read
 // True when files can be made in the folder: the system allows it and the folder's own
 // permissions give someone write access, so a folder made read-only counts as read-only even

@@ -45,6 +45,13 @@ TEST(LineConvention, FilesAreCopiedAsTwinsAndRewrittenWithTheirEnds) {
   EXPECT_EQ(dir.read("copy.nc"), mixed);  // byte for byte
   rewriteWithLineEnds(dir.file("copy.nc"), LineEnds::CrLf);
   EXPECT_EQ(dir.read("copy.nc"), mixed);
+  // A first CR blocks into the file: what was already taken for Linux text is copied again as it is.
+  const std::string lateCr = lf + "M30\r\n";
+  EXPECT_EQ(copyAsCrLfTwin(dir.write("late.nc", lateCr), dir.file("copy.nc")), LineEnds::CrLf);
+  EXPECT_EQ(dir.read("copy.nc"), lateCr);
+  // No break at all: its own twin.
+  EXPECT_EQ(copyAsCrLfTwin(dir.write("one.nc", "G0 X1"), dir.file("copy.nc")), LineEnds::CrLf);
+  EXPECT_EQ(dir.read("copy.nc"), "G0 X1");
 
   EXPECT_THROW(lineEndsOfFile(dir.file("missing.nc")), AppError);
   EXPECT_THROW(copyAsCrLfTwin(dir.file("missing.nc"), dir.file("x.nc")), AppError);

@@ -6,10 +6,12 @@
 #include "document/line_ending_checks.h"
 #include "format/colorizer.h"
 #include "frame_fixture.h"
+#include "support/temp_dir.h"
 #include "document/gui/rich_text_box.h"
 #include "shell/gui/status_panels.h"
 #include "shell/gui/mdi_form.h"
 
+#include <QKeyEvent>
 #include <QTimer>
 
 using namespace lathwick;
@@ -111,4 +113,42 @@ TEST_F(ColorizeTest, EscOrAClickOnTheMessagePanelCancelsALongRunAndLeavesTheDocu
   // The next run starts with the flag cleared and completes.
   trigger("mnuModal", 0);
   EXPECT_TRUE(e->FileUndoable());
+}
+
+// The undo file of a colour run is written while the colorizer runs: meanwhile the document
+// takes no typing, a run that is cancelled leaves the undo file as it was, and a completed run's
+// undo file brings back the document from before it, colours and all.
+TEST_F(ColorizeTest, TheUndoFileIsWrittenDuringTheRunAndReplacedOnlyWhenTheResultComes) {
+  const std::string text = program(5000);
+  start();
+  gui::frmEditor* e = openFile(files.write("long.nc", text));
+  trigger("mnuModal", 0);
+  const std::vector<int> modes = lineStyles(e);
+  const std::string plainSnapshot = lathwick::test::readBytes(values.UndoFile);
+  ASSERT_FALSE(plainSnapshot.empty());
+
+  // Typing and Esc while View Codes runs: the typing is refused, the run is cancelled.
+  bool readOnly = false;
+  QTimer::singleShot(0, frame.get(), [&] {
+    readOnly = e->richTextBox().isReadOnly();
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
+    QApplication::sendEvent(e->rtfTextBox().widget(), &key);
+    QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(e->rtfTextBox().widget(), &esc);
+  });
+  trigger("mnuModal", 1);
+  EXPECT_TRUE(readOnly);
+  EXPECT_FALSE(e->richTextBox().isReadOnly());
+  EXPECT_EQ(e->rtfTextBox().text(), text);
+  EXPECT_EQ(lathwick::test::readBytes(values.UndoFile), plainSnapshot);
+  EXPECT_EQ(lineStyles(e), modes);
+
+  // A completed View Codes: Undo brings the colours by modes back.
+  dialogs.messages.clear();
+  trigger("mnuModal", 1);
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_NE(lineStyles(e), modes);
+  trigger("mnuUndo");
+  EXPECT_EQ(e->rtfTextBox().text(), text);
+  EXPECT_EQ(lineStyles(e), modes);
 }

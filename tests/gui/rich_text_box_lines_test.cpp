@@ -68,6 +68,10 @@ TEST_F(RichTextBoxTest, PlainTextLoadsAndSavesByteForByte) {
   box->saveFile(dir.file("out.nc"), FileKind::PlainText);
   EXPECT_EQ(dir.read("out.nc"), bytes);
   EXPECT_FALSE(box->canUndo());  // a load is not an edit
+  // The whole text counts as loaded, so a snapshot can be written from the load's styles.
+  const auto loaded = box->unchangedDocument();
+  ASSERT_TRUE(loaded.has_value());
+  EXPECT_EQ(loaded->text, bytes);
   EXPECT_THROW(box->loadFile(dir.file("absent.nc"), FileKind::PlainText), lathwick::AppError);
   EXPECT_EQ(box->textBytes(), bytes);  // a failed load leaves the control as it was
 }

@@ -14,6 +14,7 @@
 #include "document/document_table.h"
 #include "document/gui/editor_host.h"
 #include "document/gui/rich_text_control.h"
+#include "document/gui/undo_snapshot.h"
 #include "document/selection_length.h"
 #include "platform/bytes.h"
 #include "format/scheme_data_file.h"
@@ -102,9 +103,10 @@ DefaultTextStyle frmEditor::defaultTextStyle() const {
 }
 
 bool frmEditor::reloadDocument(const std::string& path, TextKind kind) {
+  const std::unique_ptr<UndoSnapshot> snapshot = std::move(passSnapshot_);
   const bool done = ::lathwick::ReloadDocument(rich_->box(), path,
                                                kind == TextKind::Rich ? FileKind::RichText : FileKind::PlainText,
-                                               defaultTextStyle(), frame_.editorFiles().undo);
+                                               defaultTextStyle(), frame_.editorFiles().undo, snapshot.get());
   ShowLineNum();
   return done;
 }

@@ -15,6 +15,7 @@
 namespace lathwick {
 struct DocumentRecord;
 class RichTextBox;
+class UndoSnapshot;
 }
 
 namespace lathwick::gui {
@@ -100,6 +101,8 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
   long lineCount() const override;
   bool savePlainText(const std::string& path) override;
   bool reloadDocument(const std::string& path, ReloadFormat format) override;
+  void beginPassSnapshot() override;
+  void endPassSnapshot() override;
   void undo() override { Undo(); }
   void setStatusText(const std::string& text) override;
   PassFrame passFrame() const override;
@@ -140,6 +143,7 @@ class frmEditor : public QWidget, public TransformTarget, public WorkspaceDocume
   std::unique_ptr<MenuSet> menus_;
   lathwick::FileUndoable undoable_;
   std::string cutLine_;  // rich text of the last line Cut Line removed
+  std::unique_ptr<UndoSnapshot> passSnapshot_;  // being written while a pass runs
 };
 
 }  // namespace lathwick::gui

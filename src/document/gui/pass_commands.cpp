@@ -4,6 +4,7 @@
 #include "document/gui/editor_host.h"
 #include "document/gui/frm_editor.h"
 #include "document/gui/rich_text_control.h"
+#include "document/gui/undo_snapshot.h"
 #include "format/pass_frame.h"
 #include "platform/bytes.h"
 #include "transform/find_next.h"
@@ -41,6 +42,12 @@ bool frmEditor::savePlainText(const std::string& path) {
 bool frmEditor::reloadDocument(const std::string& path, ReloadFormat format) {
   return reloadDocument(path, format == ReloadFormat::Rich ? TextKind::Rich : TextKind::Plain);
 }
+
+void frmEditor::beginPassSnapshot() {
+  passSnapshot_ = std::make_unique<UndoSnapshot>(rich_->box(), frame_.editorFiles().undo);
+}
+
+void frmEditor::endPassSnapshot() { passSnapshot_.reset(); }
 
 void frmEditor::scriptEnded() {
   text_->holdCaretScrolling(false);

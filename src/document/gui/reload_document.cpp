@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "document/gui/undo_snapshot.h"
 #include "platform/file_system.h"
 
 namespace lathwick {
@@ -35,11 +36,13 @@ std::string lineBreakAtEnd(const RichTextBox& box) {
 }  // namespace
 
 bool ReloadDocument(RichTextBox& box, const std::string& path, FileKind kind, const DefaultTextStyle& style,
-                    const std::string& undoFilePath) {
+                    const std::string& undoFilePath, UndoSnapshot* snapshot) {
   bool ok = true;
   const QPoint caret = box.caretPixelPosition();
   const bool isUndoFile = nativePath(path) == nativePath(undoFilePath);
-  if (!isUndoFile) {
+  if (snapshot && !isUndoFile) {
+    ok = snapshot->commit();
+  } else if (!isUndoFile) {
     try {
       box.saveFile(undoFilePath, FileKind::RichText, Durability::Scratch);
     } catch (...) {

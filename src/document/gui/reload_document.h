@@ -27,9 +27,11 @@ struct DefaultTextStyle {
 // the present contents are first saved as rich text to the undo file. The caret offset (or, when
 // the caret was above the view, the start of the first visible line) and the first visible line
 // are restored afterwards. Errors stay silent, as they always have: the control is left as far
-// as the load got, and the result says whether everything worked.
+// as the load got, and the result says whether everything worked. A snapshot written while the
+// result was being made (by a pass) is put in place instead of saving the contents then.
+class UndoSnapshot;
 bool ReloadDocument(RichTextBox& box, const std::string& path, FileKind kind, const DefaultTextStyle& style,
-                    const std::string& undoFilePath);
+                    const std::string& undoFilePath, UndoSnapshot* snapshot = nullptr);
 
 class FileUndoGroup;
 

@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QPoint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -93,6 +94,17 @@ class RichTextBox : public QsciScintilla {
   void saveFile(const std::string& path, FileKind kind, Durability durability = Durability::Durable) const;
   void loadRtf(std::string_view rtf, std::string_view finalBreak = {});
   std::string rtf() const;
+  // What a writer on another thread needs to write the document as rich text, when its styles
+  // are still those it was loaded with (nullopt otherwise). The text stays where it is only
+  // while the document is not changed: the caller makes sure it is not.
+  struct UnchangedDocument {
+    std::string_view text;
+    const StyleRuns* runs;
+    std::vector<TextRange> strikeouts;
+    StyleTable table;
+    int indentTwips;
+  };
+  std::optional<UnchangedDocument> unchangedDocument() const;
   // The styles of a range, one byte per character, and the struck-out ranges (for tests and the
   // writer).
   std::string stylesOf(long start, long end) const;

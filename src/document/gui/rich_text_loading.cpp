@@ -62,12 +62,13 @@ class RichTextLoader : public RtfTextSink {
     appendText(text);
     box_.loadedRuns_.append(text.size(), 0);
     lastStyle_ = 0;
+    position_ += static_cast<long>(text.size());
   }
 
-  // The end of the document: `finalBreak` is added when the text does not end in a break.
+  // The end of the document: `finalBreak` is added when rich text does not end in a break.
   void finish(std::string_view finalBreak) {
     start();
-    if (!finalBreak.empty() && position_ > 0 && lastChar_ != '\n' && lastChar_ != '\r') {
+    if (!finalBreak.empty() && styled_ && lastChar_ != '\n' && lastChar_ != '\r') {
       appendText(finalBreak);
       styles_.assign(finalBreak.size(), static_cast<char>(lastStyle_));
       box_.loadedRuns_.append(finalBreak.size(), static_cast<unsigned char>(lastStyle_));
@@ -113,6 +114,7 @@ class RichTextLoader : public RtfTextSink {
 
   // Styles the last `count` characters appended from styles_, and moves on past them.
   void style(std::size_t count) {
+    styled_ = true;
     box_.SendScintilla(QsciScintillaBase::SCI_STARTSTYLING, position_, 0L);
     box_.SendScintilla(QsciScintillaBase::SCI_SETSTYLINGEX, static_cast<uintptr_t>(count), styles_.data());
     position_ += static_cast<long>(count);
@@ -150,6 +152,7 @@ class RichTextLoader : public RtfTextSink {
   int indent_;
   bool started_ = false;
   bool finished_ = false;
+  bool styled_ = false;  // rich text came (a plain load keeps its end as it is)
   long position_ = 0;  // where the next piece goes
   char lastChar_ = 0;
   int lastStyle_ = 0;
@@ -262,6 +265,12 @@ void RichTextBox::writeWholeRtf(const std::function<void(std::string_view)>& sin
                        [this](long from, long to) { return stylesOf(from, to); });
   const std::vector<TextRange> strikes = strikeoutsOf(0, static_cast<long>(length));
   writeRtf({characterView(), {}, &strikes, indentTwips_, &runs}, table_, sink);
+}
+
+std::optional<RichTextBox::UnchangedDocument> RichTextBox::unchangedDocument() const {
+  const std::string_view text = characterView();
+  if (!loadedKnown_ || !pieces_.unchanged(text.size())) return std::nullopt;
+  return UnchangedDocument{text, &loadedRuns_, loadedStrikeouts_, table_, indentTwips_};
 }
 
 std::string RichTextBox::rtf() const {

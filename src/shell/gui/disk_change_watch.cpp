@@ -110,7 +110,7 @@ bool DiskChangeWatch::reload(frmEditor& editor) {
   try {
     LineEnds lineEnds = LineEnds::CrLf;
     if (rich) {
-      if (!copyFile(path, work)) throw makeError(err::kPathFileAccessError);
+      if (!copyFile(path, work, Durability::Scratch)) throw makeError(err::kPathFileAccessError);
     } else {
       lineEnds = copyAsCrLfTwin(path, work);
     }

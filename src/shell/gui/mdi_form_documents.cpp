@@ -15,6 +15,7 @@
 #include "shell/gui/frame_look.h"
 #include "document/gui/frm_editor.h"
 #include "document/paths.h"
+#include "document/work_copy.h"
 #include "platform/atomic_file.h"
 #include "platform/bytes.h"
 #include "platform/errors.h"
@@ -121,19 +122,16 @@ frmEditor* MDIForm1::LoadDoc(std::string fileName) {
     editor = createWindow(index);
     documents_.record(index).scheme = currentScheme_;
     // A program with Linux line ends is worked on as its CR LF twin and saved back with LF.
-    LineEnds lineEnds = LineEnds::CrLf;
-    if (!isRichTextName(fileName))
-      lineEnds = copyAsCrLfTwin(fileName, values_.Temp2File);
-    else if (!copyFile(fileName, values_.Temp2File))
-      throw makeError(err::kPathFileAccessError);
+    WorkCopy copy(fileName, values_.Temp2File, isRichTextName(fileName));
     std::string folder = fileName;
     lastPath_ = PathOf(folder);
     writeSetting(settings_, Setting::LastPath, lastPath_);
     editor->prepare();
-    editor->rtfTextBox().loadFile(values_.Temp2File, isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
+    editor->rtfTextBox().loadFile(copy.loadFrom(), isRichTextName(fileName) ? TextKind::Rich : TextKind::Plain);
+    copy.finish();
     DocumentRecord& record = documents_.record(index);
     record.fileName = fileName;
-    record.lineEnds = lineEnds;
+    record.lineEnds = copy.lineEnds();
     editor->setWindowTitle(q(captionAfterLoad(fileName)));
     applyAutoFormat();
     recentListUpdate(fileName);

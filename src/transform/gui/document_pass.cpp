@@ -14,6 +14,19 @@ void report(const PassResult& result) {
   if (report.shown) dialogs().message(report.text, report.caption, Buttons::Ok, report.icon);
 }
 
+// The undo snapshot a pass may write while it runs, dropped however the run ends unless the
+// reload took it.
+class PassSnapshot {
+ public:
+  explicit PassSnapshot(TransformTarget& target) : target_(target) { target_.beginPassSnapshot(); }
+  ~PassSnapshot() { target_.endPassSnapshot(); }
+  PassSnapshot(const PassSnapshot&) = delete;
+  PassSnapshot& operator=(const PassSnapshot&) = delete;
+
+ private:
+  TransformTarget& target_;
+};
+
 // Tells the frame a run is going on for as long as it lasts, however it ends.
 class Running {
  public:
@@ -34,6 +47,7 @@ class Running {
 std::optional<PassResult> runDocumentPass(TransformTarget& target, const PassRun& run, const DocumentPass& pass) {
   const std::string in = target.inputWorkFile();
   if (!target.savePlainText(in)) return std::nullopt;
+  const PassSnapshot snapshot(target);
   PassResult result;
   {
     const BusyCursor hourglass;

@@ -27,6 +27,11 @@ class TransformTarget : public transform::SearchTarget {
   // ReloadDocument: the current contents go to the undo file, `path` is loaded, the caret line
   // and the first visible line stay where they were. False when the snapshot or the load failed.
   virtual bool reloadDocument(const std::string& path, ReloadFormat format) = 0;
+  // A pass is about to run: the undo file of the reload that may follow can be written while it
+  // runs (the document takes no edits meanwhile). The next reloadDocument puts it in place;
+  // endPassSnapshot drops it when no reload came.
+  virtual void beginPassSnapshot() {}
+  virtual void endPassSnapshot() {}
   virtual void setFileUndoable(bool undoable) = 0;
   // The editing undo (a file undo when FileUndoable is set).
   virtual void undo() = 0;
