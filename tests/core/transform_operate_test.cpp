@@ -38,37 +38,18 @@ std::string operated(const std::string& raw, const std::string& addresses, char 
 std::string pic(double v, const char* picture) { return NumericPicture(picture).format(v); }
 }  // namespace
 
-TEST(NumericPicture, ZerosAreAlwaysShownHashesOnlyWhenSignificant) {
-  EXPECT_EQ(pic(15, "##0.0###"), "15.0");
-  EXPECT_EQ(pic(0.25, "##0.0###"), "0.25");
-  EXPECT_EQ(pic(0, "##0.0###"), "0.0");
-  EXPECT_EQ(pic(0.5, "#.##"), ".5");
-  EXPECT_EQ(pic(5, "000"), "005");
-  EXPECT_EQ(pic(5, "#00"), "05");
-  EXPECT_EQ(pic(12345, "0"), "12345");
-  EXPECT_EQ(pic(1.5, "0.000"), "1.500");
-  EXPECT_EQ(pic(15, "0."), "15.");
-  EXPECT_EQ(pic(1.25, "0.#0#"), "1.25");
-  EXPECT_EQ(pic(1.2, "0.#0#"), "1.20");
-}
-
-TEST(NumericPicture, RoundsHalfAwayFromZeroAfterFifteenSignificantDigits) {
-  EXPECT_EQ(pic(2.5, "0"), "3");
-  EXPECT_EQ(pic(-2.5, "0"), "-3");
-  EXPECT_EQ(pic(0.125, "0.00"), "0.13");
-  EXPECT_EQ(pic(2.675, "0.00"), "2.68");  // 2.67499999... in binary, 2.675 in 15 digits
-  EXPECT_EQ(pic(0.1 * 3, "0.0################"), "0.3");
-  EXPECT_EQ(pic(9.9996, "0.000"), "10.000");
-  EXPECT_EQ(pic(0.0004, "#.###"), ".");
-  EXPECT_EQ(pic(0.0005, "0.000"), "0.001");
-  EXPECT_EQ(pic(1e20, "0"), "100000000000000000000");
-}
-
-TEST(NumericPicture, MinusOnlyWhenTheShownNumberIsNotZero) {
-  EXPECT_EQ(pic(-0.5, "##0.0###"), "-0.5");
-  EXPECT_EQ(pic(-0.00001, "0.0"), "0.0");
-  EXPECT_EQ(pic(-0.0, "0"), "0");
-  EXPECT_EQ(pic(-1234.56789, "0.00"), "-1234.57");
+TEST(NumericPicture, FormatsByThePicture) {
+  // Zeros are always shown, hashes only when significant; halves round away from zero after
+  // fifteen significant digits; a minus only when the number shown is not zero.
+  const struct { double value; const char* picture; const char* shown; } rows[] = {
+      {15, "##0.0###", "15.0"}, {0.25, "##0.0###", "0.25"}, {0, "##0.0###", "0.0"}, {0.5, "#.##", ".5"},
+      {5, "000", "005"}, {5, "#00", "05"}, {12345, "0", "12345"}, {1.5, "0.000", "1.500"}, {15, "0.", "15."},
+      {1.25, "0.#0#", "1.25"}, {1.2, "0.#0#", "1.20"}, {2.5, "0", "3"}, {-2.5, "0", "-3"}, {0.125, "0.00", "0.13"},
+      {2.675, "0.00", "2.68"},  // 2.67499999... in binary, 2.675 in 15 digits
+      {0.1 * 3, "0.0################", "0.3"}, {9.9996, "0.000", "10.000"}, {0.0004, "#.###", "."},
+      {0.0005, "0.000", "0.001"}, {1e20, "0", "100000000000000000000"}, {-0.5, "##0.0###", "-0.5"},
+      {-0.00001, "0.0", "0.0"}, {-0.0, "0", "0"}, {-1234.56789, "0.00", "-1234.57"}};
+  for (const auto& r : rows) EXPECT_EQ(pic(r.value, r.picture), r.shown) << r.value << " as " << r.picture;
 }
 
 TEST(NumericPicture, AcceptsOnlyZeroHashAndOnePoint) {
@@ -91,59 +72,42 @@ TEST(Operate, ValidationOrderAndTexts) {
 }
 
 TEST(Operate, ReadsTheLeadingNumberOfAValueShortOrLong) {
-  EXPECT_EQ(leadingValue("1.5/2"), 1.5);
-  EXPECT_EQ(leadingValue("+5"), 5);
-  EXPECT_EQ(leadingValue("-"), 0);
-  EXPECT_EQ(leadingValue("-.5"), -0.5);
-  EXPECT_EQ(leadingValue("5."), 5);
-  EXPECT_EQ(leadingValue("1-2"), 1);
-  EXPECT_EQ(leadingValue("--5"), 0);
+  const std::pair<const char*, double> rows[] = {{"1.5/2", 1.5}, {"+5", 5}, {"-", 0},  {"-.5", -0.5},
+                                                 {"5.", 5},      {"1-2", 1}, {"--5", 0}};
+  for (const auto& [text, value] : rows) EXPECT_EQ(leadingValue(text), value) << text;
 }
 
-TEST(Operate, ScalesEveryChosenAddressAndMarksTheNewValues) {
-  long n = 0;
-  EXPECT_EQ(operated("X10 Y-2.5 Z.1", "XYZ", '*', 2, "##0.0###", false, &n), "X<20.0> Y<-5.0> Z<0.2>");
-  EXPECT_EQ(n, 3);
-  EXPECT_EQ(operated("X-1", "X", '+', 0.5), "X<-0.5>");
-  EXPECT_EQ(operated("X+5", "X", '-', 1), "X<4.0>");
-  EXPECT_EQ(operated("X6 X8", "X", '/', 4), "X<1.5> X<2.0>");
-  EXPECT_EQ(operated("X1.5/2,Y", "X", '*', 1), "X<1.5>,Y");  // the stepped-over "/2" goes too
-}
-
-TEST(Operate, LoneLettersLowerCaseAndOtherLettersAreLeftAloneAndMarkersFollowTheValues) {
-  long n = 0;
-  EXPECT_EQ(operated("X G01 x5 X", "X", '*', 2, "0", false, &n), "X G01 x5 X");
-  EXPECT_EQ(n, 0);
-  EXPECT_EQ(operated("G01 X1 F100", "XY", '*', 2, "0", false, &n), "G01 X<2> F100");
-  EXPECT_EQ(n, 1);
-  // X comes first in the addresses but last in the line; Y's longer value moves it right.
-  EXPECT_EQ(operated("Y1 X1", "XY", '*', 10, "0.000"), "Y<10.000> X<10.000>");
-}
-
-TEST(Operate, ALetterGivenTwiceWorksOnItsValueTwiceUnderOneMark) {
-  long n = 0;
-  EXPECT_EQ(operated("X9", "XX", '/', 100, "0.##", false, &n), "X<0.>");  // 0.09, then 0.0009
-  EXPECT_EQ(n, 2);
-  EXPECT_EQ(operated("X1.25", "XX", '+', 0.25, "0.##", false, &n), "X<1.75>");
-  EXPECT_EQ(n, 2);
-  // Another letter in between, values growing and shrinking around the one changed twice.
-  EXPECT_EQ(operated("Y1 X1", "XYX", '*', 10, "0.000", false, &n), "Y<10.000> X<100.000>");
-  EXPECT_EQ(n, 3);
-  EXPECT_EQ(operated("X100 Y1 X200", "XYX", '/', 10, "0", false, &n), "X<1> Y<0> X<2>");
-  EXPECT_EQ(n, 5);
-  EXPECT_EQ(operated("X1 Y2 X", "XXX", '+', 1, "0", false, &n), "X<4> Y2 X");
-  EXPECT_EQ(n, 3);
-}
-
-TEST(Operate, ACompleteCommentBlocksTheWholeLineWhenCommentsAreExcluded) {
-  long n = 0;
-  EXPECT_EQ(operated("G01 X1 (MOVE X)", "X", '*', 2, "0", true, &n), "G01 X1 (MOVE X)");
-  EXPECT_EQ(n, 0);
-  // An opening delimiter without a closing one: letters up to it still count.
-  EXPECT_EQ(operated("G01 X1 (MOVE X2", "X", '*', 2, "0", true, &n), "G01 X<2> (MOVE X2");
-  EXPECT_EQ(n, 1);
-  // Without exclusion the comment's values change too.
-  EXPECT_EQ(operated("G01 X1 (MOVE X2)", "X", '*', 2, "0"), "G01 X<2> (MOVE X<4>)");
+TEST(Operate, TheWordOperationOnOneLine) {
+  const struct { const char *raw, *addresses; char op; double operand; const char* format; bool exclude;
+                 const char* line; long count; } rows[] = {
+      // Every chosen address is scaled and its new value marked; a stepped-over "/2" goes too.
+      {"X10 Y-2.5 Z.1", "XYZ", '*', 2, "##0.0###", false, "X<20.0> Y<-5.0> Z<0.2>", 3},
+      {"X-1", "X", '+', 0.5, "##0.0###", false, "X<-0.5>", 1},
+      {"X+5", "X", '-', 1, "##0.0###", false, "X<4.0>", 1},
+      {"X6 X8", "X", '/', 4, "##0.0###", false, "X<1.5> X<2.0>", 2},
+      {"X1.5/2,Y", "X", '*', 1, "##0.0###", false, "X<1.5>,Y", 1},
+      // Lone letters, lower case and other letters are left alone.
+      {"X G01 x5 X", "X", '*', 2, "0", false, "X G01 x5 X", 0},
+      {"G01 X1 F100", "XY", '*', 2, "0", false, "G01 X<2> F100", 1},
+      // X comes first in the addresses but last in the line; Y's longer value moves it right.
+      {"Y1 X1", "XY", '*', 10, "0.000", false, "Y<10.000> X<10.000>", 2},
+      // A letter given twice works on its value twice under one mark (0.09, then 0.0009).
+      {"X9", "XX", '/', 100, "0.##", false, "X<0.>", 2},
+      {"X1.25", "XX", '+', 0.25, "0.##", false, "X<1.75>", 2},
+      // Another letter in between, values growing and shrinking around the one changed twice.
+      {"Y1 X1", "XYX", '*', 10, "0.000", false, "Y<10.000> X<100.000>", 3},
+      {"X100 Y1 X200", "XYX", '/', 10, "0", false, "X<1> Y<0> X<2>", 5},
+      {"X1 Y2 X", "XXX", '+', 1, "0", false, "X<4> Y2 X", 3},
+      // A complete comment blocks the whole line when comments are excluded; an opening
+      // delimiter without a closing one does not block the letters before it.
+      {"G01 X1 (MOVE X)", "X", '*', 2, "0", true, "G01 X1 (MOVE X)", 0},
+      {"G01 X1 (MOVE X2", "X", '*', 2, "0", true, "G01 X<2> (MOVE X2", 1},
+      {"G01 X1 (MOVE X2)", "X", '*', 2, "0", false, "G01 X<2> (MOVE X<4>)", 2}};
+  for (const auto& r : rows) {
+    long n = -1;
+    EXPECT_EQ(operated(r.raw, r.addresses, r.op, r.operand, r.format, r.exclude, &n), r.line) << r.raw;
+    EXPECT_EQ(n, r.count) << r.raw;
+  }
 }
 
 TEST(Operate, PassCountsOperationsAndOverflowFailsTheOperation) {
