@@ -27,87 +27,50 @@ std::string replaced(const std::string& raw, const std::string& find, const std:
 }
 }  // namespace
 
-TEST(SearchMatch, CaseBlindByDefaultAndExactWithMatchCase) {
-  EXPECT_EQ(matchInLine("g01 x1", "X1", 1, 0, 0, 0), 5);
-  EXPECT_EQ(matchInLine("g01 x1 X1", "X1", 1, kMatchCase, 0, 0), 8);
-  EXPECT_EQ(matchInLine("g01 x1", "X1", 1, kMatchCase, 0, 0), 0);
-  EXPECT_EQ(matchInLine("X1 X1", "x1", 2, 0, 0, 0), 4);
-  EXPECT_EQ(matchInLine("X1", "X1", 3, 0, 0, 0), 0);
-  EXPECT_EQ(matchInLine("X1", "", 1, 0, 0, 0), 0);
+TEST(SearchMatch, FindsWithTheFlags) {
+  const struct { const char *line, *find; int start, flags, open, close, at; } rows[] = {
+      // Case-blind by default, exact with Match Case.
+      {"g01 x1", "X1", 1, 0, 0, 0, 5}, {"g01 x1 X1", "X1", 1, kMatchCase, 0, 0, 8},
+      {"g01 x1", "X1", 1, kMatchCase, 0, 0, 0}, {"X1 X1", "x1", 2, 0, 0, 0, 4}, {"X1", "X1", 3, 0, 0, 0, 0},
+      {"X1", "", 1, 0, 0, 0, 0},
+      // Whole word needs a space (not a tab) or the line end on both sides.
+      {"X1 Y2", "X1", 1, kWholeWord, 0, 0, 1}, {"Y2 X1", "X1", 1, kWholeWord, 0, 0, 4},
+      {"X10", "X1", 1, kWholeWord, 0, 0, 0}, {"Y2\tX1", "X1", 1, kWholeWord, 0, 0, 0},
+      {"Y2,X1", "X1", 1, kWholeWord, 0, 0, 0}, {"X1;", "X1", 1, kWholeWord, 0, 0, 0},
+      // Exclude comments rejects only between the first delimiters ("(" at 8, ")" at 16); an
+      // opening delimiter without a closing one protects nothing.
+      {"G01 X1 (X1 HERE)", "X1", 1, kExcludeComments, 8, 16, 5},
+      {"G01 X1 (X1 HERE)", "X1", 7, kExcludeComments, 8, 16, 0}, {"G01 (X1", "X1", 1, kExcludeComments, 5, 0, 6}};
+  for (const auto& r : rows)
+    EXPECT_EQ(matchInLine(r.line, r.find, r.start, r.flags, r.open, r.close), r.at) << r.line << " / " << r.find;
 }
 
-TEST(SearchMatch, WholeWordNeedsASpaceOrTheLineEndOnBothSides) {
-  EXPECT_EQ(matchInLine("X1 Y2", "X1", 1, kWholeWord, 0, 0), 1);
-  EXPECT_EQ(matchInLine("Y2 X1", "X1", 1, kWholeWord, 0, 0), 4);
-  EXPECT_EQ(matchInLine("X10", "X1", 1, kWholeWord, 0, 0), 0);
-  EXPECT_EQ(matchInLine("Y2\tX1", "X1", 1, kWholeWord, 0, 0), 0);  // a tab is not a space
-  EXPECT_EQ(matchInLine("Y2,X1", "X1", 1, kWholeWord, 0, 0), 0);
-  EXPECT_EQ(matchInLine("X1;", "X1", 1, kWholeWord, 0, 0), 0);
-}
-
-TEST(SearchMatch, ExcludeCommentsRejectsOnlyBetweenTheFirstDelimiters) {
-  // "G01 X1 (X1 HERE)": open 8, close 16.
-  EXPECT_EQ(matchInLine("G01 X1 (X1 HERE)", "X1", 1, kExcludeComments, 8, 16), 5);
-  EXPECT_EQ(matchInLine("G01 X1 (X1 HERE)", "X1", 7, kExcludeComments, 8, 16), 0);
-  // An opening delimiter without a closing one protects nothing.
-  EXPECT_EQ(matchInLine("G01 (X1", "X1", 1, kExcludeComments, 5, 0), 6);
-}
-
-TEST(ReplaceLine, WholeWordStopsTheLineAtTheFirstRejectedOccurrence) {
-  long n = 0;
-  EXPECT_EQ(replaced("X1 X10 X1", "X1", "X2", kWholeWord, &n), "<X2> X10 X1");
-  EXPECT_EQ(n, 1);
-  EXPECT_EQ(replaced("X10 X1", "X1", "X2", kWholeWord, &n), "X10 X1");
-  EXPECT_EQ(n, 0);
-}
-
-TEST(ReplaceLine, ExcludeCommentsLeavesTheCommentAndStopsInsideIt) {
-  long n = 0;
-  EXPECT_EQ(replaced("G01 X1 (X1 HERE)", "X1", "X5", kExcludeComments, &n), "G01 <X5> (X1 HERE)");
-  EXPECT_EQ(n, 1);
-  // The first occurrence lies in the comment: the line's search ends there.
-  EXPECT_EQ(replaced("(NOTE X1) X1", "X1", "X5", kExcludeComments, &n), "(NOTE X1) X1");
-  EXPECT_EQ(n, 0);
-  // Without the flag both are replaced.
-  EXPECT_EQ(replaced("(NOTE X1) X1", "X1", "X5", 0, &n), "(NOTE <X5>) <X5>");
-}
-
-TEST(ReplaceLine, EveryOccurrenceIsReplacedAndMarkedLeftToRight) {
-  long n = 0;
-  EXPECT_EQ(replaced("x1y1x1", "X1", "Z22", 0, &n), "<Z22>y1<Z22>");
-  EXPECT_EQ(n, 2);
-  // Adjacent occurrences: each gets its own pair of markers.
-  EXPECT_EQ(replaced("AAA", "A", "b", kMatchCase, &n), "<b><b><b>");
-  // A replacement that contains the find text is not searched again.
-  EXPECT_EQ(replaced("X X", "X", "XX", 0, &n), "<XX> <XX>");
-  EXPECT_EQ(n, 2);
-  // Replacing with nothing leaves the two markers side by side.
-  EXPECT_EQ(replaced("G01 X1", " ", "", 0, &n), "G01<>X1");
-}
-
-TEST(ReplaceLine, LaterOccurrencesSeeTheLineAsAlreadyChanged) {
-  // Whole word looks at the character before, which may be the end of the previous replacement.
-  EXPECT_EQ(replaced(" X X", " X", " Y ", kWholeWord), "< Y >< Y >");
-  EXPECT_EQ(replaced(" X X", " X", " Y", kWholeWord), "< Y> X");
-  // The comment positions were taken before any change, so a shrinking line can move a later
-  // occurrence between them: here the second XYZ1 is then taken as inside the comment.
-  EXPECT_EQ(replaced("XYZ1 (AB) XYZ1", "XYZ1", "", kExcludeComments), "<> (AB) XYZ1");
-}
-
-TEST(ReplaceLine, BracesAndBackslashesAreFoundBecauseBothSidesAreEscaped) {
-  long n = 0;
-  EXPECT_EQ(replaced("A{B}C", "{", "[", 0, &n), "A<[>B\\}C");
-  EXPECT_EQ(n, 1);
-  EXPECT_EQ(replaced("A\\B", "\\", "/", 0, &n), "A</>B");
-  EXPECT_EQ(replaced("A[B", "[", "{", 0, &n), "A<\\{>B");
-}
-
-TEST(ReplaceLine, HighlightKeepsTheTextAndColoursIt) {
-  long n = 0;
-  EXPECT_EQ(replaced("G01 x1 Y1", "X1", "X1", 0, &n), "G01 <X1> Y1");  // the find text's case
-  EXPECT_EQ(n, 1);
-  EXPECT_EQ(replaced("G01 x1 Y1", "X1", "X1", kMatchCase, &n), "G01 x1 Y1");
-  EXPECT_EQ(n, 0);
+TEST(ReplaceLine, ReplacesAndMarksEachOccurrence) {
+  const struct { const char *raw, *find, *repl; int flags; const char* line; long count; } rows[] = {
+      // Whole word stops the line at the first rejected occurrence.
+      {"X1 X10 X1", "X1", "X2", kWholeWord, "<X2> X10 X1", 1}, {"X10 X1", "X1", "X2", kWholeWord, "X10 X1", 0},
+      // Exclude comments leaves the comment and stops inside it; without the flag both go.
+      {"G01 X1 (X1 HERE)", "X1", "X5", kExcludeComments, "G01 <X5> (X1 HERE)", 1},
+      {"(NOTE X1) X1", "X1", "X5", kExcludeComments, "(NOTE X1) X1", 0},
+      {"(NOTE X1) X1", "X1", "X5", 0, "(NOTE <X5>) <X5>", 2},
+      // Every occurrence, left to right, each with its own markers; a replacement holding the
+      // find text is not searched again; replacing with nothing leaves the markers side by side.
+      {"x1y1x1", "X1", "Z22", 0, "<Z22>y1<Z22>", 2}, {"AAA", "A", "b", kMatchCase, "<b><b><b>", 3},
+      {"X X", "X", "XX", 0, "<XX> <XX>", 2}, {"G01 X1", " ", "", 0, "G01<>X1", 1},
+      // Later occurrences see the line as already changed: whole word looks at the character
+      // before, which may end the previous replacement; the comment positions were taken before
+      // any change, so a shrinking line moves the second XYZ1 between them.
+      {" X X", " X", " Y ", kWholeWord, "< Y >< Y >", 2}, {" X X", " X", " Y", kWholeWord, "< Y> X", 1},
+      {"XYZ1 (AB) XYZ1", "XYZ1", "", kExcludeComments, "<> (AB) XYZ1", 1},
+      // Braces and backslashes are found because both sides are escaped.
+      {"A{B}C", "{", "[", 0, "A<[>B\\}C", 1}, {"A\\B", "\\", "/", 0, "A</>B", 1}, {"A[B", "[", "{", 0, "A<\\{>B", 1},
+      // Highlight keeps the text (in the find text's case) and colours it.
+      {"G01 x1 Y1", "X1", "X1", 0, "G01 <X1> Y1", 1}, {"G01 x1 Y1", "X1", "X1", kMatchCase, "G01 x1 Y1", 0}};
+  for (const auto& r : rows) {
+    long n = -1;
+    EXPECT_EQ(replaced(r.raw, r.find, r.repl, r.flags, &n), r.line) << r.raw << " / " << r.find;
+    EXPECT_EQ(n, r.count) << r.raw << " / " << r.find;
+  }
 }
 
 TEST(SearchPass, ReplaceAllAndHighlightAllCountWithTheirPhrases) {
