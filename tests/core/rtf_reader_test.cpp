@@ -61,58 +61,41 @@ TEST(RtfReader, ColorizerOutputLoadsWithItsTextFormatsAndIndent) {
   EXPECT_EQ(doc.runs.front().format, doc.runs.back().format);
 }
 
-TEST(RtfReader, LastParagraphMarkEndsTheDocumentWithoutAnEmptyLine) {
-  EXPECT_EQ(textOf("{\\rtf1 a\\par b\\par}"), "a\r\nb");
-  EXPECT_EQ(textOf("{\\rtf1 a\\par\\par}"), "a\r\n");
-  EXPECT_EQ(textOf("{\\rtf1 \\par}"), "");
-  EXPECT_EQ(textOf("{\\rtf1 a\\line b\\line}"), "a\r\nb\r\n");  // a line break is always a break
-  EXPECT_EQ(textOf("{\\rtf1 a\\\nb\\\r\nc}"), "a\r\nb\r\nc");    // backslash + line end is \par
-}
-
-TEST(RtfReader, EscapesSymbolsAndSpecialCharacters) {
-  EXPECT_EQ(textOf("{\\rtf1 \\\\ \\{x\\} a\\tab b\\~c\\-d\\_e}"), "\\ {x} a\tb\xA0" "cd-e");
-  EXPECT_EQ(textOf("{\\rtf1 \\lquote q\\rquote \\ldblquote d\\rdblquote \\emdash\\endash\\bullet}"),
-            "\x91q\x92\x93" "d\x94\x97\x96\x95");
-  EXPECT_EQ(textOf("{\\rtf1 caf\\'e9 \\'4A}"), "caf\xE9 J");
-  // Raw line ends and control bytes in the source are not text; a literal tab is.
-  EXPECT_EQ(textOf("{\\rtf1 a\r\nb\x01\tc}\0"), "ab\tc");
-}
-
-TEST(RtfReader, UnicodeEscapesSkipTheirFallbackCharacters) {
-  EXPECT_EQ(textOf("{\\rtf1 \\u233?x}"), "\xE9x");          // \uc1 by default
-  EXPECT_EQ(textOf("{\\rtf1 \\uc2\\u8364\\'80\\'80y}"), "\x80y");  // euro sign, two fallbacks
-  EXPECT_EQ(textOf("{\\rtf1 \\uc0\\u8226 z}"), "\x95z");
-  EXPECT_EQ(textOf("{\\rtf1 \\u945 a b}"), "? b");                // alpha has no Windows-1252 byte
-  EXPECT_EQ(textOf("{\\rtf1 \\u-10179?\\u-9047?!}"), "?!");         // a surrogate pair is one character
-  EXPECT_EQ(textOf("{\\rtf1 {\\uc3\\u233 a}bc}"), "\xE9" "bc");      // skipping stops at the group end
-}
-
-TEST(RtfReader, SkipsDestinationsTheyDoNotShow) {
-  const std::string rtf =
-      "{\\rtf1{\\info{\\title T}{\\author A}}{\\stylesheet{\\s0 Normal;}}{\\*\\generator G;}"
-      "{\\*\\unknowndest hidden}{\\header H}{\\footnote F}{\\pict\\wmetafile8 0102ff}"
-      "{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt shown}} body}";
-  EXPECT_EQ(textOf(rtf), "shown body");
-}
-
-TEST(RtfReader, BinaryDataIsSkippedByCountEvenWhenItHoldsBraces) {
-  std::string rtf = "{\\rtf1 a{\\*\\shppict{\\pict\\bin6 ";
-  rtf += std::string("}{\\x\0b", 6);
-  rtf += "}}b}";
-  EXPECT_EQ(textOf(rtf), "ab");
-}
-
-TEST(RtfReader, CodePagesOfTheDocumentAndItsFontsConvertToWindows1252) {
-  // \ansicpg1250: 0xB3 is l with stroke (no Windows-1252 byte), 0xE9 is e acute in both.
-  EXPECT_EQ(textOf("{\\rtf1\\ansi\\ansicpg1250 \\'b3\\'e9}"), "?\xE9");
-  // \pc: 0x82 is e acute in code page 437.
-  EXPECT_EQ(textOf("{\\rtf1\\pc \\'82}"), "\xE9");
-  // A font in a double-byte character set: each two-byte character becomes one "?".
-  EXPECT_EQ(textOf("{\\rtf1{\\fonttbl{\\f0\\fcharset0 Arial;}{\\f1\\fcharset128 MS Gothic;}}"
-                   "\\f1\\'83\\'6f\\'81\\'5b A\\f0\\'e9}"),
-            "?? A\xE9");
-  // A symbol font keeps its bytes.
-  EXPECT_EQ(textOf("{\\rtf1\\ansicpg1251{\\fonttbl{\\f2\\fcharset2 Symbol;}}\\f2\\'b7}"), "\xB7");
+TEST(RtfReader, TheTextAReaderOfTheDocumentSees) {
+  std::string binary = "{\\rtf1 a{\\*\\shppict{\\pict\\bin6 ";  // skipped by count, braces and all
+  binary += std::string("}{\\x\0b", 6) + "}}b}";
+  const std::pair<std::string, std::string> rows[] = {
+      // The last paragraph mark ends the document without an empty line; a line break is always
+      // a break; backslash + line end is \par.
+      {"{\\rtf1 a\\par b\\par}", "a\r\nb"}, {"{\\rtf1 a\\par\\par}", "a\r\n"}, {"{\\rtf1 \\par}", ""},
+      {"{\\rtf1 a\\line b\\line}", "a\r\nb\r\n"}, {"{\\rtf1 a\\\nb\\\r\nc}", "a\r\nb\r\nc"},
+      // Escapes, symbols and special characters; raw line ends and control bytes in the source
+      // are not text, a literal tab is.
+      {"{\\rtf1 \\\\ \\{x\\} a\\tab b\\~c\\-d\\_e}", "\\ {x} a\tb\xA0" "cd-e"},
+      {"{\\rtf1 \\lquote q\\rquote \\ldblquote d\\rdblquote \\emdash\\endash\\bullet}",
+       "\x91q\x92\x93" "d\x94\x97\x96\x95"},
+      {"{\\rtf1 caf\\'e9 \\'4A}", "caf\xE9 J"}, {"{\\rtf1 a\r\nb\x01\tc}\0", "ab\tc"},
+      // Unicode escapes skip their fallbacks (\uc1 by default, euro with two, none): alpha has no
+      // Windows-1252 byte, a surrogate pair is one character, skipping stops at the group end.
+      {"{\\rtf1 \\u233?x}", "\xE9x"}, {"{\\rtf1 \\uc2\\u8364\\'80\\'80y}", "\x80y"},
+      {"{\\rtf1 \\uc0\\u8226 z}", "\x95z"}, {"{\\rtf1 \\u945 a b}", "? b"},
+      {"{\\rtf1 \\u-10179?\\u-9047?!}", "?!"}, {"{\\rtf1 {\\uc3\\u233 a}bc}", "\xE9" "bc"},
+      // Destinations that are not shown are skipped.
+      {"{\\rtf1{\\info{\\title T}{\\author A}}{\\stylesheet{\\s0 Normal;}}{\\*\\generator G;}"
+       "{\\*\\unknowndest hidden}{\\header H}{\\footnote F}{\\pict\\wmetafile8 0102ff}"
+       "{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt shown}} body}",
+       "shown body"},
+      {binary, "ab"},
+      // Code pages convert to Windows-1252: in 1250 0xB3 is l with stroke (no byte), 0xE9 is e
+      // acute in both; in \pc (437) 0x82 is e acute; a double-byte font's characters become one
+      // "?" each; a symbol font keeps its bytes.
+      {"{\\rtf1\\ansi\\ansicpg1250 \\'b3\\'e9}", "?\xE9"}, {"{\\rtf1\\pc \\'82}", "\xE9"},
+      {"{\\rtf1{\\fonttbl{\\f0\\fcharset0 Arial;}{\\f1\\fcharset128 MS Gothic;}}\\f1\\'83\\'6f\\'81\\'5b A\\f0\\'e9}",
+       "?? A\xE9"},
+      {"{\\rtf1\\ansicpg1251{\\fonttbl{\\f2\\fcharset2 Symbol;}}\\f2\\'b7}", "\xB7"},
+      // Text that is not rich text loads as it is; blank lines before the header are allowed.
+      {"N10 G00 X0\r\nN20 {x}\\", "N10 G00 X0\r\nN20 {x}\\"}, {"", ""}, {"\r\n {\\rtf1 a}", "a"}};
+  for (const auto& [rtf, text] : rows) EXPECT_EQ(textOf(rtf), text) << rtf;
 }
 
 TEST(RtfReader, PlainResetsToTheDefaultFontAndUnderlineNoneClearsUnderline) {
