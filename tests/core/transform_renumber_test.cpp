@@ -27,40 +27,26 @@ Lines renumbered(Lines lines, RenumberMethod method, std::int32_t start = 100, s
 const Lines kFive = {"%", "O1000", "(SETUP)", "G00 X0", "N5 G01 X1"};
 }  // namespace
 
-TEST(Renumber, TheThreeMethodsOnTheFiveLineProgram) {
-  EXPECT_EQ(renumbered(kFive, RenumberMethod::NonCommentLines),
-            (Lines{"%", "N100O1000", "(SETUP)", "N110G00 X0", "N120 G01 X1"}));
-  EXPECT_EQ(renumbered(kFive, RenumberMethod::ExistingNumbers), (Lines{"%", "O1000", "(SETUP)", "G00 X0", "N100 G01 X1"}));
-  EXPECT_EQ(renumbered(kFive, RenumberMethod::AllLines),
-            (Lines{"%", "N100O1000", "N110(SETUP)", "N120G00 X0", "N130 G01 X1"}));
-}
-
-TEST(Renumber, SequenceTextAfterTheCommentStartCountsAsInsideTheComment) {
-  const Lines in = {"(N IS NEXT) G01"};
-  EXPECT_EQ(renumbered(in, RenumberMethod::NonCommentLines), in);
-  EXPECT_EQ(renumbered(in, RenumberMethod::ExistingNumbers), in);
-  EXPECT_EQ(renumbered(in, RenumberMethod::AllLines), Lines{"N100(N IS NEXT) G01"});
-  // A number before the comment is replaced by every method.
-  EXPECT_EQ(renumbered({"N7 G01 (N8)"}, RenumberMethod::ExistingNumbers), Lines{"N100 G01 (N8)"});
-}
-
-TEST(Renumber, OldNumberRunsOverSignsPointsAndLeadingZeros) {
-  EXPECT_EQ(renumbered({"N-5.0X1", "N00010 G1", "N1,2/3+4G1"}, RenumberMethod::ExistingNumbers, 100, 5),
-            (Lines{"N100X1", "N105 G1", "N110G1"}));
-}
-
-TEST(Renumber, ALoneNumberVanishesAndDoesNotUseUpItsNumber) {
-  EXPECT_EQ(renumbered({"N10 G0", "N30", "  N40   ", "N50 X1"}, RenumberMethod::NonCommentLines),
-            (Lines{"N100 G0", "", "     ", "N110 X1"}));
-}
-
-TEST(Renumber, BlankAndSkippedLinesKeepTheirPlace) {
-  EXPECT_EQ(renumbered({"", "   ", "  %x", "G0"}, RenumberMethod::AllLines), (Lines{"", "   ", "  %x", "N100G0"}));
-}
-
-TEST(Renumber, OnlyTheRangeIsNumbered) {
-  EXPECT_EQ(renumbered({"G0", "G1", "G2", "G3"}, RenumberMethod::NonCommentLines, 1, 1, LineRange{2, 3}),
-            (Lines{"G0", "N1G1", "N2G2", "G3"}));
+TEST(Renumber, TheMethodsDecideWhichLinesAreNumbered) {
+  using M = RenumberMethod;
+  const struct { Lines in; M method; std::int32_t start, step; LineRange range; Lines out; } rows[] = {
+      {kFive, M::NonCommentLines, 100, 10, {}, {"%", "N100O1000", "(SETUP)", "N110G00 X0", "N120 G01 X1"}},
+      {kFive, M::ExistingNumbers, 100, 10, {}, {"%", "O1000", "(SETUP)", "G00 X0", "N100 G01 X1"}},
+      {kFive, M::AllLines, 100, 10, {}, {"%", "N100O1000", "N110(SETUP)", "N120G00 X0", "N130 G01 X1"}},
+      // Sequence text after the comment start counts as inside the comment; a number before the
+      // comment is replaced by every method.
+      {{"(N IS NEXT) G01"}, M::NonCommentLines, 100, 10, {}, {"(N IS NEXT) G01"}},
+      {{"(N IS NEXT) G01"}, M::ExistingNumbers, 100, 10, {}, {"(N IS NEXT) G01"}},
+      {{"(N IS NEXT) G01"}, M::AllLines, 100, 10, {}, {"N100(N IS NEXT) G01"}},
+      {{"N7 G01 (N8)"}, M::ExistingNumbers, 100, 10, {}, {"N100 G01 (N8)"}},
+      // The old number runs over signs, points and leading zeros.
+      {{"N-5.0X1", "N00010 G1", "N1,2/3+4G1"}, M::ExistingNumbers, 100, 5, {}, {"N100X1", "N105 G1", "N110G1"}},
+      // A lone number vanishes and does not use up its number.
+      {{"N10 G0", "N30", "  N40   ", "N50 X1"}, M::NonCommentLines, 100, 10, {}, {"N100 G0", "", "     ", "N110 X1"}},
+      // Blank and skipped lines keep their place; only the range is numbered.
+      {{"", "   ", "  %x", "G0"}, M::AllLines, 100, 10, {}, {"", "   ", "  %x", "N100G0"}},
+      {{"G0", "G1", "G2", "G3"}, M::NonCommentLines, 1, 1, LineRange{2, 3}, {"G0", "N1G1", "N2G2", "G3"}}};
+  for (const auto& r : rows) EXPECT_EQ(renumbered(r.in, r.method, r.start, r.step, r.range), r.out) << r.in.at(0);
 }
 
 TEST(Renumber, SequenceTextSkipCharactersAndCommentStartAreTheRequests) {
