@@ -96,12 +96,11 @@ TEST(ScriptFileName, SuffixIsAddedToEveryNonEmptyName) {
 }
 
 TEST(KeyRecording, PrefixOrderTableAndCtrlF1) {
-  EXPECT_EQ(recordedKeyText(112, kCtrlBit), "");
-  EXPECT_EQ(recordedKeyText(112, kCtrlBit | kShiftBit), "^+{F1}");
-  EXPECT_EQ(recordedKeyText(35, kShiftBit | kCtrlBit), "^+{END}");
-  EXPECT_EQ(recordedKeyText(36, kShiftBit | kCtrlBit | kAltBit), "%^+{HOME}");
-  EXPECT_EQ(recordedKeyText(127, 0), "{F16}");
-  EXPECT_EQ(recordedKeyText(65, kCtrlBit), "");  // letters are typed text, not special keys
+  // Letters are typed text, not special keys.
+  const struct { int key, shift; const char* text; } keys[] = {
+      {112, kCtrlBit, ""}, {112, kCtrlBit | kShiftBit, "^+{F1}"}, {35, kShiftBit | kCtrlBit, "^+{END}"},
+      {36, kShiftBit | kCtrlBit | kAltBit, "%^+{HOME}"}, {127, 0, "{F16}"}, {65, kCtrlBit, ""}};
+  for (const auto& k : keys) EXPECT_EQ(recordedKeyText(k.key, k.shift), k.text) << k.key << " " << k.shift;
 
   test::TempDir dir;
   const std::string file = dir.file("Keyboard.vbs");
@@ -115,25 +114,18 @@ TEST(KeyRecording, PrefixOrderTableAndCtrlF1) {
 }
 
 TEST(LikePattern, TheLikeLanguage) {
-  EXPECT_TRUE(likeMatch("G01", "G0?"));
-  EXPECT_FALSE(likeMatch("G01", "X*"));
-  EXPECT_TRUE(likeMatch("X12.5", "X##.#"));
-  EXPECT_TRUE(likeMatch("b", "[a-c]"));
-  EXPECT_FALSE(likeMatch("b", "[!a-c]"));
-  EXPECT_TRUE(likeMatch("*", "[+-*/]"));
-  EXPECT_TRUE(likeMatch("-", "[+-*/]"));
-  EXPECT_FALSE(likeMatch("25", "[0123456789.]"));
-  EXPECT_TRUE(likeMatch("", "*"));
-  EXPECT_FALSE(likeMatch("a", "[a"));
+  const struct { const char *text, *pattern; bool matches; } rows[] = {
+      {"G01", "G0?", true}, {"G01", "X*", false},       {"X12.5", "X##.#", true},        {"b", "[a-c]", true},
+      {"b", "[!a-c]", false}, {"*", "[+-*/]", true},    {"-", "[+-*/]", true}, {"25", "[0123456789.]", false},
+      {"", "*", true},        {"a", "[a", false}};
+  for (const auto& r : rows) EXPECT_EQ(likeMatch(r.text, r.pattern), r.matches) << r.text << " like " << r.pattern;
 }
 
 TEST(Format, NumbersAndDates) {
-  EXPECT_EQ(formatNumber(3.14159, "##0.0###"), "3.1416");
-  EXPECT_EQ(formatNumber(-0.5, "0.00"), "-0.50");
-  EXPECT_EQ(formatNumber(1234567.891, "#,##0.00"), "1,234,567.89");
-  EXPECT_EQ(formatNumber(7, "X0000"), "X0007");
-  EXPECT_EQ(formatNumber(1234.5, "Standard"), "1,234.50");
-  EXPECT_EQ(formatNumber(0.25, "Percent"), "25.00%");
+  const struct { double value; const char *format, *shown; } numbers[] = {
+      {3.14159, "##0.0###", "3.1416"}, {-0.5, "0.00", "-0.50"},         {1234567.891, "#,##0.00", "1,234,567.89"},
+      {7, "X0000", "X0007"},           {1234.5, "Standard", "1,234.50"}, {0.25, "Percent", "25.00%"}};
+  for (const auto& n : numbers) EXPECT_EQ(formatNumber(n.value, n.format), n.shown) << n.format;
   // 2026-01-03 is a Saturday in the week of January 1; Sunday 2026-01-04 starts week 2.
   const double jan3 = 46025, jan4 = 46026;
   EXPECT_EQ(formatDateSerial(jan3, "yyyy-mm-dd w ww"), "2026-01-03 7 1");
