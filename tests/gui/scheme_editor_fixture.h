@@ -102,6 +102,16 @@ class SchemeEditorTest : public ::testing::Test {
   }
   void clickLabel(int i) { child<QPushButton>(QStringLiteral("label1(%1)").arg(i))->click(); }
   void edit() { child<QPushButton>(QStringLiteral("cmdEdit"))->click(); }
+  // Picks style i's label and answers the font dialog with `font` (nothing: cancelled).
+  void restyle(int i, std::optional<gui::FontChoice> font) {
+    clickLabel(i);
+    if (font) styles.fonts.push_back(*font);
+    edit();
+  }
+  // Courier New 10 in `colour` with no bold, italic, underline or strikeout.
+  static gui::FontChoice plainFont(std::int32_t colour) {
+    return {"Courier New", 10, colour, false, false, false, false};
+  }
   std::string sampleFile() const { return readBytes(dir.file("sampletext.rtf")); }
   int messagesTitled(const std::string& caption) const {
     int n = 0;

@@ -41,9 +41,7 @@ TEST_F(SchemeEditorTest, ShowsTheRememberedSchemeWithItsStylesAndPreview) {
 TEST_F(SchemeEditorTest, EditingAStyleChangesThePreviewAndWarnsOncePerInvisibleStyle) {
   open();  // Classic: white background
   const std::int32_t white = bundledSchemes()[0].backColour;
-  clickLabel(kG01Mode);
-  styles.fonts.push_back(gui::FontChoice{"Times New Roman", 14, white, true, false, true, false});
-  edit();
+  restyle(kG01Mode, gui::FontChoice{"Times New Roman", 14, white, true, false, true, false});
   ASSERT_EQ(styles.fontRequests.size(), 1u);
   EXPECT_EQ(styles.fontRequests[0].name, "Courier New");  // the dialog starts on the style
   EXPECT_EQ(styles.fontRequests[0].size, 10);
@@ -57,9 +55,7 @@ TEST_F(SchemeEditorTest, EditingAStyleChangesThePreviewAndWarnsOncePerInvisibleS
   EXPECT_TRUE(form->changed());
 
   // A second style in the background colour: the check names each such style once.
-  clickLabel(kG00Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, white, false, false, false, false});
-  edit();
+  restyle(kG00Mode, plainFont(white));
   EXPECT_EQ(messagesTitled(kCautionTitle), 1 + 2);
   // Cancelling the font dialog changes nothing and warns of nothing.
   const std::string before = sampleFile();
@@ -80,26 +76,20 @@ TEST_F(SchemeEditorTest, BackgroundCommentAndBlockSkipHaveTheirOwnQuestions) {
   EXPECT_EQ(messagesTitled(kCautionTitle), static_cast<int>(invisibleStyles(form->record()).size()));
   EXPECT_GE(messagesTitled(kCautionTitle), 2);  // G01 and All Other Text at least
 
-  clickLabel(kCommentStyle);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(0, 128, 0), false, true, false, false});
   styles.queries.push_back(std::string(";"));
-  edit();
+  restyle(kCommentStyle, gui::FontChoice{"Courier New", 10, rgb(0, 128, 0), false, true, false, false});
   ASSERT_EQ(styles.prompts.size(), 1u);
   EXPECT_EQ(styles.prompts[0], kCommentQuestion);
   EXPECT_EQ(form->record().style(0, kCommentStyle).marker, ";");
-  clickLabel(kBlockSkipStyle);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(0, 128, 0), false, true, false, false});
   styles.queries.push_back(std::string("//"));
-  edit();
+  restyle(kBlockSkipStyle, gui::FontChoice{"Courier New", 10, rgb(0, 128, 0), false, true, false, false});
   EXPECT_EQ(styles.prompts.back(), kBlockSkipQuestion);
   EXPECT_EQ(form->record().style(0, kBlockSkipStyle).marker, "//");
 }
 
 TEST_F(SchemeEditorTest, SavedChangesReadBackWhenReopened) {
   open();
-  clickLabel(kG02Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 12, rgb(10, 20, 30), false, true, false, true});
-  edit();
+  restyle(kG02Mode, gui::FontChoice{"Courier New", 12, rgb(10, 20, 30), false, true, false, true});
   auto* indent = child<QComboBox>("cboIndent");
   indent->setCurrentIndex(4);
   emit indent->activated(4);
@@ -137,9 +127,7 @@ TEST_F(SchemeEditorTest, ClosingAsksOnlyAfterChanges) {
 
   const std::string before = readBytes(host.data);
   open();
-  clickLabel(kG00Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(1, 2, 3), false, false, false, false});
-  edit();
+  restyle(kG00Mode, plainFont(rgb(1, 2, 3)));
   dialogs.answers.push_back(gui::Answer::No);
   form->close();
   EXPECT_EQ(dialogs.messages, (std::vector<test::Message>{{kSettingsChangedMessage, "", gui::Buttons::YesNo,
@@ -147,9 +135,7 @@ TEST_F(SchemeEditorTest, ClosingAsksOnlyAfterChanges) {
   EXPECT_EQ(readBytes(host.data), before);  // No keeps the file as it was
 
   open();
-  clickLabel(kG00Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(1, 2, 3), false, false, false, false});
-  edit();
+  restyle(kG00Mode, plainFont(rgb(1, 2, 3)));
   dialogs.answers.push_back(gui::Answer::Yes);
   form->close();
   EXPECT_EQ(readSchemeRecord(host.data, 3).style(0, kG00Mode).colour, rgb(1, 2, 3));
@@ -201,9 +187,7 @@ TEST_F(SchemeEditorTest, CorruptDataFileIsReportedAndKeptWhole) {
   EXPECT_EQ(dialogs.messages[0].text, kDataFileProblemMessage);
   EXPECT_EQ(child<QComboBox>("cboScheme")->count(), 1);  // what was read before the problem
   // Saving the good record rewrites it and leaves the damaged one as it was.
-  clickLabel(kG00Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(9, 9, 9), false, false, false, false});
-  edit();
+  restyle(kG00Mode, plainFont(rgb(9, 9, 9)));
   menu("mnuSave");
   const std::string after = readBytes(host.data);
   ASSERT_EQ(after.size(), bytes.size());
@@ -215,9 +199,7 @@ TEST_F(SchemeEditorTest, ReadOnlyDataFileIsReportedAndNothingIsLost) {
   const std::string before = readBytes(host.data);
   std::filesystem::permissions(host.data, std::filesystem::perms::owner_read);
   open();
-  clickLabel(kG00Mode);
-  styles.fonts.push_back(gui::FontChoice{"Courier New", 10, rgb(9, 9, 9), false, false, false, false});
-  edit();
+  restyle(kG00Mode, plainFont(rgb(9, 9, 9)));
   menu("mnuSave");
   EXPECT_EQ(messagesTitled(kDataFileProblemTitle), 1);
   EXPECT_TRUE(form->changed());  // still unsaved
