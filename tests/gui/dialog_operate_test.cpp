@@ -44,19 +44,17 @@ TEST_F(OperateDialog, ScalesTheSelectedLinesAndKeepsTheEntries) {
   ok();
   ASSERT_EQ(doc.reloads, 1);
   EXPECT_TRUE(doc.fileUndoable);
-  const auto body = test::richBody(doc.reloaded);
-  ASSERT_EQ(body.size(), 3u);
-  EXPECT_EQ(body[0], "G00 X10 Y-2.5 Z.1");
-  EXPECT_EQ(body[1], "G01 X\\cf1 20.0\\plain\\cf0  Y\\cf1 -5.0\\plain\\cf0  Z\\cf1 0.2\\plain\\cf0 ");
-  EXPECT_EQ(body[2], "G01 X1");
+  EXPECT_EQ(test::richBody(doc.reloaded),
+            (std::vector<std::string>{"G00 X10 Y-2.5 Z.1",
+                                      "G01 X\\cf1 20.0\\plain\\cf0  Y\\cf1 -5.0\\plain\\cf0  Z\\cf1 0.2\\plain\\cf0 ",
+                                      "G01 X1"}));
   EXPECT_EQ(status(), "3 Operations made.");
   EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Operating... [Esc] to cancel", "Press F1 for help."}));
   EXPECT_TRUE(dialogs.messages.empty());
 
-  EXPECT_EQ(settings.get("Operate", "Address"), "XYZ");
-  EXPECT_EQ(settings.get("Operate", "Operators"), "*");
-  EXPECT_EQ(settings.get("cboValue", "cboValue1"), "2");
-  EXPECT_EQ(settings.get("cboFormat", "cboFormat1"), "##0.0###");
+  EXPECT_EQ((std::vector<std::string>{settings.get("Operate", "Address"), settings.get("Operate", "Operators"),
+                                      settings.get("cboValue", "cboValue1"), settings.get("cboFormat", "cboFormat1")}),
+            (std::vector<std::string>{"XYZ", "*", "2", "##0.0###"}));
 
   auto* undo = dialog->findChild<QPushButton*>("cmdUndo");
   ASSERT_TRUE(undo->isEnabled());

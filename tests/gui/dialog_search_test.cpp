@@ -45,12 +45,9 @@ TEST_F(SearchDialog, ReplaceAllActsOnTheSelectedLinesOnlyAndSavesTheHistories) {
   ASSERT_EQ(doc.reloads, 1);
   EXPECT_EQ(doc.lastFormat, ReloadFormat::Rich);
   EXPECT_TRUE(doc.fileUndoable);
-  const auto body = test::richBody(doc.reloaded);
-  ASSERT_EQ(body.size(), 4u);
-  EXPECT_EQ(body[0], "G01 X1");
-  EXPECT_EQ(body[1], "G01 \\cf1 X22\\plain\\cf0  Y1");
-  EXPECT_EQ(body[2], "\\cf1 X22\\plain\\cf0  \\cf1 X22\\plain\\cf0 ");
-  EXPECT_EQ(body[3], "G00 X1");
+  EXPECT_EQ(test::richBody(doc.reloaded),
+            (std::vector<std::string>{"G01 X1", "G01 \\cf1 X22\\plain\\cf0  Y1",
+                                      "\\cf1 X22\\plain\\cf0  \\cf1 X22\\plain\\cf0 ", "G00 X1"}));
   EXPECT_EQ(label("lblStatus"), "3 Replacements made.");
   EXPECT_EQ(doc.statusTexts, (std::vector<std::string>{"Replacing... [Esc] to cancel", "Press F1 for help."}));
   EXPECT_EQ(settings.get("cboFind", "cboFind1"), "X1");
