@@ -11,19 +11,11 @@ namespace lathwick {
 namespace {
 
 TEST(NumberText, ReadsDecimalFormsAndHexAndOctalAsSignedWords) {
-  EXPECT_EQ(parseNumberText(" 12 "), 12.0);
-  EXPECT_EQ(parseNumberText("-1.5"), -1.5);
-  EXPECT_EQ(parseNumberText("+.5"), 0.5);
-  EXPECT_EQ(parseNumberText("5."), 5.0);
-  EXPECT_EQ(parseNumberText("1E3"), 1000.0);
-  EXPECT_EQ(parseNumberText("1D2"), 100.0);
-  EXPECT_EQ(parseNumberText("2.5d-1"), 0.25);
-  EXPECT_EQ(parseNumberText("&HFFFF"), -1.0);
-  EXPECT_EQ(parseNumberText("&hff"), 255.0);
-  EXPECT_EQ(parseNumberText("&H0FFFF"), 65535.0);
-  EXPECT_EQ(parseNumberText("&HFFFFFFFF"), -1.0);
-  EXPECT_EQ(parseNumberText("&O177777"), -1.0);
-  EXPECT_EQ(parseNumberText("&17"), 15.0);
+  const std::pair<const char*, double> rows[] = {
+      {" 12 ", 12},      {"-1.5", -1.5}, {"+.5", 0.5},     {"5.", 5},           {"1E3", 1000},
+      {"1D2", 100},      {"2.5d-1", 0.25}, {"&HFFFF", -1}, {"&hff", 255},       {"&H0FFFF", 65535},
+      {"&HFFFFFFFF", -1}, {"&O177777", -1}, {"&17", 15}};
+  for (const auto& [text, value] : rows) EXPECT_EQ(parseNumberText(text), value) << text;
 }
 
 TEST(NumberText, RefusesWhatIsNotANumber) {
