@@ -51,18 +51,12 @@ TEST(AppFolder, FileExistsOnlyForNormalFilesAndWithBackslashAddsOneSeparator) {
   test::TempDir dir;
   dir.write("part.nc", "G0");
   dir.write(".hidden", "x");
-  EXPECT_TRUE(FileExists(dir.file("part.nc")));
-  EXPECT_TRUE(FileExists("  " + dir.file("part.nc") + "  "));
-  EXPECT_TRUE(FileExists(dir.file("*.nc")));
-  EXPECT_FALSE(FileExists(dir.file("*.txt")));
-  EXPECT_FALSE(FileExists(dir.file(".hidden")));
-  EXPECT_FALSE(FileExists(dir.str()));      // a folder
-  EXPECT_FALSE(FileExists(dir.folder()));   // ends in a separator
-  EXPECT_FALSE(FileExists("/"));
-  EXPECT_FALSE(FileExists("C:"));
-  EXPECT_FALSE(FileExists("C:\\"));
-  EXPECT_FALSE(FileExists("    "));
-  EXPECT_FALSE(FileExists(dir.file("nope.nc")));
+  for (const std::string& found : {dir.file("part.nc"), "  " + dir.file("part.nc") + "  ", dir.file("*.nc")})
+    EXPECT_TRUE(FileExists(found)) << found;
+  // Not a file: a folder, with or without its separator, roots, blanks, nothing there.
+  for (const std::string& none : {dir.file("*.txt"), dir.file(".hidden"), dir.str(), dir.folder(), std::string("/"),
+                                  std::string("C:"), std::string("C:\\"), std::string("    "), dir.file("nope.nc")})
+    EXPECT_FALSE(FileExists(none)) << none;
   EXPECT_EQ(WithBackslash("  C:\\Jobs  "), "C:\\Jobs/");
   EXPECT_EQ(WithBackslash("C:\\Jobs\\"), "C:\\Jobs\\");
   EXPECT_EQ(WithBackslash("/opt/lathwick/"), "/opt/lathwick/");
