@@ -35,13 +35,12 @@ TEST(RecoveryIndex, ReadsBackWhatItWroteEscapesAndAll) {
 
 TEST(RecoveryIndex, RefusesWhatIsNotAnIndex) {
   const std::string good = encodeRecoveryIndex(sample());
-  EXPECT_FALSE(decodeRecoveryIndex(""));
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 2\ntime=1\ntext=a.txt\n"));
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 1\ntext=a.txt\n")) << "no time";
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 1\ntime=12x\ntext=a.txt\n"));
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 1\ntime=1\n")) << "no text";
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 1\ntime=1\ntext=a.txt\nkind=html\n"));
-  EXPECT_FALSE(decodeRecoveryIndex("Lathwick recovery 1\ntime=1\ntext=a.txt\nlineEnds=CR\n"));
+  // Empty, another version, no time, a bad time, no text, an unknown kind or line end.
+  for (const char* bad : {"", "Lathwick recovery 2\ntime=1\ntext=a.txt\n", "Lathwick recovery 1\ntext=a.txt\n",
+                          "Lathwick recovery 1\ntime=12x\ntext=a.txt\n", "Lathwick recovery 1\ntime=1\n",
+                          "Lathwick recovery 1\ntime=1\ntext=a.txt\nkind=html\n",
+                          "Lathwick recovery 1\ntime=1\ntext=a.txt\nlineEnds=CR\n"})
+    EXPECT_FALSE(decodeRecoveryIndex(bad)) << bad;
   for (const char* outside : {"../a.txt", "/etc/passwd", "..", "sub\\\\a.txt"})
     EXPECT_FALSE(decodeRecoveryIndex(std::string("Lathwick recovery 1\ntime=1\ntext=") + outside + "\n")) << outside;
   // Cut short after the text name is still whole; unknown keys and stray lines are passed over.
