@@ -8,14 +8,11 @@
 using namespace lathwick;
 
 TEST(LineConvention, OnlyLfWithoutAnyCrIsLinuxText) {
-  EXPECT_EQ(lineEndsOf("G0 X1\nG1 Y2\n"), LineEnds::Lf);
-  EXPECT_EQ(lineEndsOf("%\n"), LineEnds::Lf);
-  EXPECT_EQ(lineEndsOf("G0 X1\r\nG1 Y2\r\n"), LineEnds::CrLf);
-  // Mixed or lone CRs are for the line-ending checks and the junk filter to judge.
-  EXPECT_EQ(lineEndsOf("G0 X1\r\nG1 Y2\n"), LineEnds::CrLf);
-  EXPECT_EQ(lineEndsOf("G0 X1\rG1 Y2\n"), LineEnds::CrLf);
-  EXPECT_EQ(lineEndsOf("G0 X1"), LineEnds::CrLf);  // one line, nothing to convert
-  EXPECT_EQ(lineEndsOf(""), LineEnds::CrLf);
+  for (const char* lf : {"G0 X1\nG1 Y2\n", "%\n"}) EXPECT_EQ(lineEndsOf(lf), LineEnds::Lf) << lf;
+  // Mixed or lone CRs are for the line-ending checks and the junk filter to judge; one line has
+  // nothing to convert.
+  for (const char* crlf : {"G0 X1\r\nG1 Y2\r\n", "G0 X1\r\nG1 Y2\n", "G0 X1\rG1 Y2\n", "G0 X1", ""})
+    EXPECT_EQ(lineEndsOf(crlf), LineEnds::CrLf) << crlf;
 }
 
 TEST(LineConvention, TwinAndBackAreExactInverses) {
