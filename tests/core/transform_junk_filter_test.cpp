@@ -7,22 +7,17 @@
 using namespace lathwick::transform;
 using lathwick::PassOutcome;
 
-TEST(JunkFilter, DropsTheLeaderTabsControlCharactersAndHighBytesAndTurnsLineFeedsIntoCrLf) {
-  EXPECT_EQ(junkFilter("\n\n\n%\nN10 G00\n"), "%\r\nN10 G00\r\n");
-  EXPECT_EQ(junkFilter("\x12\x7f\xff   \t%\r\nX1"), "%\r\nX1\r\n");
-  EXPECT_EQ(junkFilter("A\r\nB\nC\r\n"), "A\r\nB\r\nC\r\n");
-  EXPECT_EQ(junkFilter("X1\tY2\n"), "X1Y2\r\n");
-  const char withNul[] = "X1\xa0Y2\xff\x0c\x00Z\n";
-  EXPECT_EQ(junkFilter(std::string_view(withNul, sizeof withNul - 1)), "X1Y2Z\r\n");
-}
-
-TEST(JunkFilter, AlwaysEndsWithALineBreak) {
-  EXPECT_EQ(junkFilter("\x01\x02\x03"), "\r\n");
-  EXPECT_EQ(junkFilter("\x01\x02\n"), "");
-  EXPECT_EQ(junkFilter(""), "\r\n");
-  EXPECT_EQ(junkFilter("X1"), "X1\r\n");
-  EXPECT_EQ(junkFilter("X1\n\r"), "X1\r\n\r\n");  // the last byte read was not a line feed
-  EXPECT_EQ(junkFilter("A\rB\rC"), "ABC\r\n");     // bare CR line ends come out as one line
+TEST(JunkFilter, DropsTheJunkTurnsLineFeedsIntoCrLfAndEndsWithALineBreak) {
+  using namespace std::string_literals;
+  const std::pair<std::string, std::string> rows[] = {
+      // The leader, tabs, control characters and high bytes (a NUL too) go.
+      {"\n\n\n%\nN10 G00\n", "%\r\nN10 G00\r\n"}, {"\x12\x7f\xff   \t%\r\nX1", "%\r\nX1\r\n"},
+      {"A\r\nB\nC\r\n", "A\r\nB\r\nC\r\n"},   {"X1\tY2\n", "X1Y2\r\n"}, {"X1\xa0Y2\xff\x0c\x00Z\n"s, "X1Y2Z\r\n"},
+      // A line break always ends the output, unless the last byte read was a line feed; bare CR
+      // line ends come out as one line.
+      {"\x01\x02\x03", "\r\n"}, {"\x01\x02\n", ""}, {"", "\r\n"}, {"X1", "X1\r\n"}, {"X1\n\r", "X1\r\n\r\n"},
+      {"A\rB\rC", "ABC\r\n"}};
+  for (const auto& [in, out] : rows) EXPECT_EQ(junkFilter(in), out) << in;
 }
 
 TEST(JunkFilter, StreamedInPiecesGivesTheSameAsWhole) {
