@@ -29,15 +29,12 @@ TEST(LineEndingChecks, TheTwoChecksDifferOnPurpose) {
 }
 
 TEST(FileErrors, TableTextsAndFallbackToDescription) {
-  EXPECT_EQ(FileErrorText(57, "Device I/O error"), "The disk is full.");
-  EXPECT_EQ(FileErrorText(61, "Disk full"), "Disk full");
-  EXPECT_EQ(FileErrorText(52, ""), "That filename is illegal.");
-  EXPECT_EQ(FileErrorText(64, ""), "That filename is illegal.");
-  EXPECT_EQ(FileErrorText(76, ""), "That path doesn't exist.");
-  EXPECT_EQ(FileErrorText(62, ""),
-            "This file has a nonstandard end-of-file marker,or an attempt was made to read beyond "
-            "the end-of-file marker.");
-  EXPECT_EQ(FileErrorText(53, "File not found"), "File not found");
+  const struct { int number; const char *description, *text; } rows[] = {
+      {57, "Device I/O error", "The disk is full."}, {61, "Disk full", "Disk full"},
+      {52, "", "That filename is illegal."}, {64, "", "That filename is illegal."}, {76, "", "That path doesn't exist."},
+      {62, "", "This file has a nonstandard end-of-file marker,or an attempt was made to read beyond the end-of-file marker."},
+      {53, "File not found", "File not found"}};
+  for (const auto& r : rows) EXPECT_EQ(FileErrorText(r.number, r.description), r.text) << r.number;
 }
 
 TEST(OpenFile, NamePatternAndUnknownModes) {
