@@ -37,21 +37,14 @@ TEST_F(FrameTest, FrameMenuGivesWayToTheDocumentMenuAndComesBack) {
 TEST_F(FrameTest, DocumentMenuKeepsItsOwnSpellingsAndKeys) {
   start();
   trigger("mnuNew");
-  const auto text = [&](const char* name, int index = -1) {
-    return frame->menuAction(name, index)->text().toStdString();
-  };
-  const auto keys = [&](const char* name, int index = -1) {
-    return frame->menuAction(name, index)->shortcut().toString().toStdString();
-  };
-  EXPECT_EQ(text("mnuContents"), "&Contents\tF1");
-  EXPECT_EQ(text("mnuTileVert"), "Tile &Vertically        { II }");
-  EXPECT_EQ(text("mnuTilrHoriz"), "Tile &Horizontally   { = }");
-  EXPECT_EQ(text("mnuModal", 2), "&Reload");
-  EXPECT_EQ(keys("mnuCutToEnd"), "Shift+F5");
-  EXPECT_EQ(keys("mnuExecuteMacro", 1), "Ctrl+L");
-  EXPECT_EQ(keys("mnuModal", 1), "F7");
-  EXPECT_EQ(keys("mnuShow"), "F11");
-  EXPECT_EQ(keys("mnuContents"), "F1");
+  struct Row { const char* name; int index; const char* value; };
+  const Row captions[] = {{"mnuContents", -1, "&Contents\tF1"}, {"mnuTileVert", -1, "Tile &Vertically        { II }"},
+                          {"mnuTilrHoriz", -1, "Tile &Horizontally   { = }"}, {"mnuModal", 2, "&Reload"}};
+  for (const Row& r : captions) EXPECT_EQ(frame->menuAction(r.name, r.index)->text().toStdString(), r.value) << r.name;
+  const Row keys[] = {{"mnuCutToEnd", -1, "Shift+F5"}, {"mnuExecuteMacro", 1, "Ctrl+L"}, {"mnuModal", 1, "F7"},
+                      {"mnuShow", -1, "F11"}, {"mnuContents", -1, "F1"}};
+  for (const Row& r : keys)
+    EXPECT_EQ(frame->menuAction(r.name, r.index)->shortcut().toString().toStdString(), r.value) << r.name;
   // The text control handles the clipboard keys itself: the menu only shows them.
   EXPECT_TRUE(frame->menuAction("mnuCut")->shortcut().isEmpty());
 }
