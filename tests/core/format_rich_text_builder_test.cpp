@@ -64,10 +64,9 @@ TEST(RichTextBuilder, FontNameInsideALongerNameGetsNoEntryAndKeepsItsNumber) {
   buildSchemeFragments(r);
   EXPECT_EQ(r.rtfHeader.substr(0, r.rtfHeader.find("\r\n")),
             "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\fswiss Arial Black;}{\\f1\\froman Times New Roman;}}");
-  EXPECT_EQ(r.style(0, 3).fontNumber, 7);
-  EXPECT_EQ(r.style(1, 2).fontNumber, 1);
-  EXPECT_EQ(r.style(1, 9).fontNumber, 1);
-  EXPECT_EQ(r.style(0, 12).fontNumber, 0);
+  const std::vector<int> numbers{r.style(0, 3).fontNumber, r.style(1, 2).fontNumber, r.style(1, 9).fontNumber,
+                                 r.style(0, 12).fontNumber};
+  EXPECT_EQ(numbers, (std::vector<int>{7, 1, 1, 0}));
   EXPECT_EQ(r.style(0, 3).attributes.substr(0, 3), "\\f7");
 }
 
@@ -83,11 +82,9 @@ TEST(RichTextBuilder, ColourEntryInsideALongerEntryGetsNoEntryAndKeepsItsNumber)
   const std::size_t at = r.rtfHeader.find("{\\colortbl");
   EXPECT_EQ(r.rtfHeader.substr(at, r.rtfHeader.find("\r\n", at) - at),
             "{\\colortbl\\red0\\green0\\blue0;\\red1\\green2\\blue30;\\red255\\green0\\blue0;}");
-  EXPECT_EQ(r.style(0, 0).colourNumber, 0);
-  EXPECT_EQ(r.style(0, 1).colourNumber, 1);
-  EXPECT_EQ(r.style(0, 2).colourNumber, 9);
-  EXPECT_EQ(r.style(1, 5).colourNumber, 2);
-  EXPECT_EQ(r.style(1, 6).colourNumber, 2);
+  const std::vector<int> numbers{r.style(0, 0).colourNumber, r.style(0, 1).colourNumber, r.style(0, 2).colourNumber,
+                                 r.style(1, 5).colourNumber, r.style(1, 6).colourNumber};
+  EXPECT_EQ(numbers, (std::vector<int>{0, 1, 9, 2, 2}));
 }
 
 TEST(RichTextBuilder, HeaderIsCutAt512Characters) {
