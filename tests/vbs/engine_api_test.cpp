@@ -41,6 +41,11 @@ class FakeApp : public HostObject {
   }
 };
 
+// What a run gave as text: a string as it is, anything else as its whole number.
+std::string asText(const std::optional<Variant>& r) {
+  return r ? (r->isString() ? r->strValue() : std::to_string(r->intValue())) : "<error>";
+}
+
 // Where an error record points: "source name:line:column [line text]".
 std::string where(const ErrorRecord& e) {
   return e.source + " " + e.sourceName + ":" + std::to_string(e.line) + ":" + std::to_string(e.column) + " [" +
@@ -66,8 +71,7 @@ struct Fixture : ::testing::Test {
   }
   std::string eval(const std::string& expr) {
     EXPECT_TRUE(engine.addCode("Function Probe__()\nProbe__ = " + expr + "\nEnd Function"));
-    auto r = engine.run("Probe__");
-    return r && r->isString() ? r->strValue() : (r ? std::to_string(r->intValue()) : "<error>");
+    return asText(engine.run("Probe__"));
   }
 };
 
@@ -100,9 +104,7 @@ TEST_F(Fixture, CodePiecesShareOneNamespaceAndProceduresAreListedInOrder) {
   EXPECT_EQ(listed, (std::vector<std::string>{"V_Renumber(1) S late.vbs:1", "Add(2) F extra.vbs:2",
                                               "LoadDoc(1) S extra.vbs:5"}));
   std::vector<Variant> args{Variant::integer(2), Variant::integer(3)};
-  auto r = engine.run("add", args);
-  ASSERT_TRUE(r);
-  EXPECT_EQ(r->intValue(), 7);
+  EXPECT_EQ(asText(engine.run("add", args)), "7");
 }
 
 TEST_F(Fixture, RunPassesArgumentsByReferenceAndReportsUnknownNamesAndWrongArity) {
@@ -138,9 +140,7 @@ TEST_F(Fixture, ResetDropsCodeStateAndObjects) {
   engine.reset();
   EXPECT_TRUE(engine.procedures().empty());
   ASSERT_TRUE(engine.addCode("Const K = 2\nFunction Probe()\nProbe = IsEmpty(v) & K\nEnd Function"));
-  auto r = engine.run("Probe");
-  ASSERT_TRUE(r);
-  EXPECT_EQ(r->strValue(), "True2");
+  EXPECT_EQ(asText(engine.run("Probe")), "True2");
   // Application is gone until the host registers it again.
   EXPECT_FALSE(engine.addCode("Option Explicit\nx = Application.SelText"));
 }
@@ -211,9 +211,7 @@ long errorNumber(const std::string& text) {
 
 // Adds code that defines a function R, runs R and gives its text, or "<error>".
 std::string resultOfR(Engine& e, const std::string& code) {
-  if (!e.addCode(code)) return "<error>";
-  const auto r = e.run("R");
-  return r && r->isString() ? r->strValue() : "<error>";
+  return e.addCode(code) ? asText(e.run("R")) : "<error>";
 }
 
 TEST(MalformedScripts, GarbageAndNulBytesAreCompileErrors) {
@@ -284,12 +282,10 @@ TEST(Reentrancy, ScriptsCanAddCodeAndResetWhileRunning) {
   e.addObject("App", host, true);
   ASSERT_TRUE(e.addCode("ok = LoadScript(\"Function Helper()\" & vbCrLf & \"Helper = 41\" & vbCrLf & \"End Function\")\n"
                         "Function Probe()\nProbe = Helper() + 1\nEnd Function"));
-  auto r = e.run("Probe");
-  ASSERT_TRUE(r);
-  EXPECT_EQ(r->intValue(), 42);
+  EXPECT_EQ(asText(e.run("Probe")), "42");
   // A failing nested load reports its own error and the caller carries on.
   ASSERT_TRUE(e.addCode("bad = LoadScript(\"x = (\")\nFunction WasBad()\nWasBad = Not bad\nEnd Function"));
-  r = e.run("WasBad");
+  const auto r = e.run("WasBad");
   ASSERT_TRUE(r);
   EXPECT_TRUE(r->boolValue());
   // Resetting under a running procedure drops everything without pulling the code away.
