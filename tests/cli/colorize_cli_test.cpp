@@ -24,24 +24,22 @@ const std::string kDataProblem =
 
 }  // namespace
 
-TEST(CliColorize, BothViewsMatchTheGoldenFiles) {
-  TempDir dir;
-  auto r = runCli({"colorize", "--view", "modes", testData("sample.nc"), dir.file("modes.rtf")});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, "");
-  EXPECT_EQ(readBytes(dir.file("modes.rtf")), readBytes(testData("sample.modes.rtf")));
-  r = runCli({"colorize", "--view", "codes", "--scheme", "2", testData("sample.nc"), dir.file("codes.rtf")});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(readBytes(dir.file("codes.rtf")), readBytes(testData("sample.codes.rtf")));
-}
-
 // Code words right after one of their own kind (M3M8, T1T2, F100.F200.) are marked as well: the
 // search goes on from the end of each mark.
-TEST(CliColorize, CodeWordsSideBySideAreAllMarked) {
+TEST(CliColorize, BothViewsMatchTheGoldenFiles) {
   TempDir dir;
-  const auto r = runCli({"colorize", "--view", "codes", testData("markers.nc"), dir.file("codes.rtf")});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(readBytes(dir.file("codes.rtf")), readBytes(testData("markers.codes.rtf")));
+  const struct { std::vector<std::string> command; const char *in, *golden; } rows[] = {
+      {{"colorize", "--view", "modes"}, "sample.nc", "sample.modes.rtf"},
+      {{"colorize", "--view", "codes", "--scheme", "2"}, "sample.nc", "sample.codes.rtf"},
+      {{"colorize", "--view", "codes"}, "markers.nc", "markers.codes.rtf"}};
+  for (const auto& row : rows) {
+    std::vector<std::string> args = row.command;
+    args.insert(args.end(), {testData(row.in), dir.file("o.rtf")});
+    const auto r = runCli(args);
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "");
+    EXPECT_EQ(readBytes(dir.file("o.rtf")), readBytes(testData(row.golden))) << row.golden;
+  }
 }
 
 TEST(CliColorize, UsesAnyDataFileAndTheCommentOption) {
