@@ -11,6 +11,7 @@
 using namespace lathwick;
 using lathwick::test::corpusDir;
 using lathwick::test::readBytes;
+using lathwick::test::CliResult;
 using lathwick::test::runCli;
 using lathwick::test::TempDir;
 
@@ -76,13 +77,9 @@ TEST(CliColorize, RefusalsLeaveOutUnwritten) {
   for (std::size_t i = 0; i < garbage.size(); i += 3) garbage[i] = static_cast<char>(i % 31);
   for (const std::string& data : {dir.write("short.dat", good.substr(0, 12000)), dir.write("garbage.dat", garbage),
                                   dir.write("empty.dat", ""), dir.file("missing.dat")}) {
-    r = runCli({"colorize", "--view", "codes", "--data", data, in, out});
-    EXPECT_EQ(r.exitCode, 1) << data;
-    EXPECT_EQ(r.err, kDataProblem) << data;
+    EXPECT_EQ(runCli({"colorize", "--view", "codes", "--data", data, in, out}), (CliResult{1, "", kDataProblem}));
   }
-  r = runCli({"colorize", "--view", "codes", "--scheme", "5", in, out});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, kDataProblem);
+  EXPECT_EQ(runCli({"colorize", "--view", "codes", "--scheme", "5", in, out}), (CliResult{1, "", kDataProblem}));
   r = runCli({"colorize", "--view", "codes", dir.file("none.nc"), out});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_NE(r.err.find("File not found"), std::string::npos);

@@ -12,6 +12,7 @@
 namespace {
 
 using lathwick::test::corpusDir;
+using lathwick::test::CliResult;
 using lathwick::test::runCli;
 
 std::vector<std::string> splitLines(const std::string& text) {
@@ -127,7 +128,5 @@ TEST(RtfTextCli, MissingFileIsRefusedAndNoFileIsAUsageError) {
   r = runCli({"rtf-text"});
   EXPECT_EQ(r.exitCode, 2);
   const std::string path = dir.write("plain.rtf", "{\\rtf1 one\\par two\\par}");
-  r = runCli({"rtf-text", path});
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out, "one\r\ntwo");
+  EXPECT_EQ(runCli({"rtf-text", path}), (CliResult{0, "one\r\ntwo", ""}));
 }

@@ -6,6 +6,7 @@
 #include "support/cli_runner.h"
 
 using namespace lathwick;
+using lathwick::test::CliResult;
 using lathwick::test::runCli;
 using lathwick::test::TempDir;
 
@@ -16,12 +17,10 @@ const std::string kProblem =
 }
 
 TEST(CliScheme, ListAndHeaderOfTheBundledDataFile) {
-  auto r = runCli({"scheme", "list"});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, "1\tClassic\n2\tNight Shift\n3\tHigh Contrast\n4\tPrint\n");
-  r = runCli({"scheme", "header", "--scheme", "2"});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, bundledSchemes()[1].rtfHeader + "\n");
+  EXPECT_EQ(runCli({"scheme", "list"}),
+            (CliResult{0, "1\tClassic\n2\tNight Shift\n3\tHigh Contrast\n4\tPrint\n", ""}));
+  EXPECT_EQ(runCli({"scheme", "header", "--scheme", "2"}),
+            (CliResult{0, bundledSchemes()[1].rtfHeader + "\n", ""}));
 }
 
 TEST(CliScheme, ReadsAnyDataFileAndDumpsEveryField) {
@@ -55,23 +54,12 @@ TEST(CliScheme, BadDataFilesGiveTheDataFileMessageAndBadArgumentsAUsageError) {
   const std::string garbage = dir.write("garbage.dat", noise);
 
   for (const std::string& file : {shortFile, garbage, dir.file("missing.dat")}) {
-    const auto r = runCli({"scheme", "header", "--data", file});
-    EXPECT_EQ(r.exitCode, 1) << file;
-    EXPECT_EQ(r.err, kProblem) << file;
-    EXPECT_EQ(r.out, "");
+    EXPECT_EQ(runCli({"scheme", "header", "--data", file}), (CliResult{1, "", kProblem})) << file;
   }
-  auto r = runCli({"scheme", "list", "--data", truncated});
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out, "1\tClassic\n");
-  r = runCli({"scheme", "header", "--data", truncated, "--scheme", "2"});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, kProblem);
-  r = runCli({"scheme", "list", "--data", garbage});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, kProblem);
-  r = runCli({"scheme", "list", "--data", shortFile});
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(runCli({"scheme", "list", "--data", truncated}), (CliResult{0, "1\tClassic\n", ""}));
+  EXPECT_EQ(runCli({"scheme", "header", "--data", truncated, "--scheme", "2"}), (CliResult{1, "", kProblem}));
+  EXPECT_EQ(runCli({"scheme", "list", "--data", garbage}), (CliResult{1, "", kProblem}));
+  EXPECT_EQ(runCli({"scheme", "list", "--data", shortFile}), (CliResult{0, "", ""}));
   // Usage errors.
   EXPECT_EQ(runCli({"scheme"}).exitCode, 2);
   EXPECT_EQ(runCli({"scheme", "show"}).exitCode, 2);

@@ -5,6 +5,7 @@
 #include "support/cli_runner.h"
 
 using lathwick::test::readBytes;
+using lathwick::test::CliResult;
 using lathwick::test::runCli;
 using lathwick::test::TempDir;
 
@@ -30,21 +31,16 @@ TEST(SendToCli, RefusalsCarryTheDialogsMessagesAndLeaveTheFileAlone) {
   const std::string prog = dir.write("dnc", "");
   const std::string dat = dir.write("SendTo.dat", "1,3\r\n\"DNC\",\"" + prog + "\",\"\"\r\n");
   const std::string before = readBytes(dat);
-  auto r = runCli({"sendto", "--file", dat, "add", "DNC", prog});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "Title is already in use.\n");
-  r = runCli({"sendto", "--file", dat, "add", "New", dir.file("missing")});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "Specified program does not exist.\nPlease check path and file name.\n");
-  r = runCli({"sendto", "--file", dat, "add", " ", prog});
-  EXPECT_EQ(r.err, "The title and full path ar required.\nPlease enter information.\n");
+  EXPECT_EQ(runCli({"sendto", "--file", dat, "add", "DNC", prog}), (CliResult{1, "", "Title is already in use.\n"}));
+  EXPECT_EQ(runCli({"sendto", "--file", dat, "add", "New", dir.file("missing")}),
+            (CliResult{1, "", "Specified program does not exist.\nPlease check path and file name.\n"}));
+  EXPECT_EQ(runCli({"sendto", "--file", dat, "add", " ", prog}).err,
+            "The title and full path ar required.\nPlease enter information.\n");
   EXPECT_EQ(runCli({"sendto", "--file", dat, "remove", "Nope"}).exitCode, 1);
   EXPECT_EQ(readBytes(dat), before);
 
   dir.write("SendTo.dat", "2,0\r\n\"DNC\",\"/x\",\"\"\r\n");  // one record short
-  r = runCli({"sendto", "--file", dat, "add", "New", prog});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "Unable to read SendTo dat file. \n");
+  EXPECT_EQ(runCli({"sendto", "--file", dat, "add", "New", prog}), (CliResult{1, "", "Unable to read SendTo dat file. \n"}));
   EXPECT_EQ(readBytes(dat), "2,0\r\n\"DNC\",\"/x\",\"\"\r\n");
 }
 
@@ -79,18 +75,16 @@ TEST(SnippetsCli, ListShowAddAndDeleteAsTheDialogDoes) {
 
   EXPECT_EQ(runCli({"snippets", "--folder", folder, "delete", "Mill.dis", "Start"}).exitCode, 0);
   EXPECT_EQ(readBytes(dir.file("Mill.dis")), "0\r\n");
-  const auto r = runCli({"snippets", "--folder", folder, "show", "Mill.dis", "Start"});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "No snippet named \"Start\" in Mill.dis.\n");
+  EXPECT_EQ(runCli({"snippets", "--folder", folder, "show", "Mill.dis", "Start"}),
+            (CliResult{1, "", "No snippet named \"Start\" in Mill.dis.\n"}));
 }
 
 TEST(SnippetsCli, ABrokenCategoryIsRefusedUntouched) {
   TempDir dir;
   const std::string bad = dir.write("Bad.dis", "2\r\n\"A\",\"1\"\r\n");
   const std::string text = dir.write("t.txt", "x");
-  const auto r = runCli({"snippets", "--folder", dir.str(), "add", "Bad.dis", "B", text});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.err, "Input past end of file\nUnable to read easy text file Bad.dis.\n");
+  EXPECT_EQ(runCli({"snippets", "--folder", dir.str(), "add", "Bad.dis", "B", text}),
+            (CliResult{1, "", "Input past end of file\nUnable to read easy text file Bad.dis.\n"}));
   EXPECT_EQ(readBytes(bad), "2\r\n\"A\",\"1\"\r\n");
 }
 

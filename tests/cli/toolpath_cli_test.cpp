@@ -19,40 +19,36 @@ const std::string kProgram =
 
 TEST(ToolpathCli, WritesOneLinePerMoveAndWarningsOnStderr) {
   TempDir dir;
-  const CliResult r = runCli({"toolpath", dir.write("p.nc", kProgram)});
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out,
-            "3 rapid 10.0000 0.0000 5.0000\n"
-            "4 feed 10.0000 0.0000 -1.0000\n"
-            "5 arc-ccw 0.0000 10.0000 -1.0000 10.0000 10.0000 -1.0000\n"
-            "7 rapid 0.0000 10.0000 5.0000\n"
-            "8 rapid 1.0000 1.0000 0.1969\n"
-            "8 rapid 1.0000 1.0000 0.1000\n"
-            "8 feed 1.0000 1.0000 -0.1000\n"
-            "8 rapid 1.0000 1.0000 0.1000\n");
-  EXPECT_EQ(r.err, "4: unsupported G41\n");
+  EXPECT_EQ(runCli({"toolpath", dir.write("p.nc", kProgram)}),
+            (CliResult{0,
+                       "3 rapid 10.0000 0.0000 5.0000\n"
+                       "4 feed 10.0000 0.0000 -1.0000\n"
+                       "5 arc-ccw 0.0000 10.0000 -1.0000 10.0000 10.0000 -1.0000\n"
+                       "7 rapid 0.0000 10.0000 5.0000\n"
+                       "8 rapid 1.0000 1.0000 0.1969\n"
+                       "8 rapid 1.0000 1.0000 0.1000\n"
+                       "8 feed 1.0000 1.0000 -0.1000\n"
+                       "8 rapid 1.0000 1.0000 0.1000\n",
+                       "4: unsupported G41\n"}));
 }
 
 // The clockwise half circle from X10 to X-10 about the origin passes Y-10; the origin, where
 // the machine starts, counts among all moves.
 TEST(ToolpathCli, BoundsGivesOneNameValueLineEach) {
   TempDir dir;
-  const CliResult r = runCli({"bounds", dir.write("p.nc", "G21 G0 X10 Y0 Z5\nG1 Z-1 F100\nG2 X-10 Y0 I-10 J0\nG0 Z5\n")});
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_EQ(r.out,
-            "units mm\nmoves 4\n"
-            "feed-x-min -10.0000\nfeed-x-max 10.0000\nfeed-y-min -10.0000\nfeed-y-max 0.0000\n"
-            "feed-z-min -1.0000\nfeed-z-max 5.0000\n"
-            "all-x-min -10.0000\nall-x-max 10.0000\nall-y-min -10.0000\nall-y-max 0.0000\n"
-            "all-z-min -1.0000\nall-z-max 5.0000\n"
-            "feed-length 37.4159\nrapid-length 17.1803\ntime-minutes 0.3742\n");
-  EXPECT_EQ(r.err, "");
+  EXPECT_EQ(runCli({"bounds", dir.write("p.nc", "G21 G0 X10 Y0 Z5\nG1 Z-1 F100\nG2 X-10 Y0 I-10 J0\nG0 Z5\n")}),
+            (CliResult{0,
+                       "units mm\nmoves 4\n"
+                       "feed-x-min -10.0000\nfeed-x-max 10.0000\nfeed-y-min -10.0000\nfeed-y-max 0.0000\n"
+                       "feed-z-min -1.0000\nfeed-z-max 5.0000\n"
+                       "all-x-min -10.0000\nall-x-max 10.0000\nall-y-min -10.0000\nall-y-max 0.0000\n"
+                       "all-z-min -1.0000\nall-z-max 5.0000\n"
+                       "feed-length 37.4159\nrapid-length 17.1803\ntime-minutes 0.3742\n",
+                       ""}));
 }
 
 TEST(ToolpathCli, MissingFileAndMissingArgument) {
-  const CliResult missing = runCli({"toolpath", "/nonexistent/p.nc"});
-  EXPECT_EQ(missing.exitCode, 1);
-  EXPECT_EQ(missing.err, "/nonexistent/p.nc: File not found\n");
+  EXPECT_EQ(runCli({"toolpath", "/nonexistent/p.nc"}), (CliResult{1, "", "/nonexistent/p.nc: File not found\n"}));
   EXPECT_EQ(runCli({"bounds"}).exitCode, 2);
   EXPECT_EQ(runCli({"toolpath", "a", "b"}).exitCode, 2);
 }
@@ -67,10 +63,7 @@ TEST(ToolpathCli, CorpusProgramsMatchTheirGoldenOutput) {
     const std::string name = entry.path().stem().string();
     SCOPED_TRACE(name);
     const std::string in = (std::filesystem::path(corpus) / name).string();
-    const CliResult path = runCli({"toolpath", in});
-    EXPECT_EQ(path.exitCode, 0);
-    EXPECT_EQ(path.out, readBytes(entry.path()));
-    EXPECT_EQ(path.err, readBytes(golden / (name + ".warnings")));
+    EXPECT_EQ(runCli({"toolpath", in}), (CliResult{0, readBytes(entry.path()), readBytes(golden / (name + ".warnings"))}));
     EXPECT_EQ(runCli({"bounds", in}).out, readBytes(golden / (name + ".bounds")));
     ++checked;
   }

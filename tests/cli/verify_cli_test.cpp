@@ -25,34 +25,28 @@ TEST(VerifyCli, NumbersSpacesAndCommentsDoNotCountButOneArcDoes) {
   const auto same = dir.write("same.nc",
                               "%\nO1000\nG21G90G17\nG0X0Y0Z5.(CLEAR)\nG1Z-1.F100.\nX20.\nG2X30.Y10.I0J10.00004\n"
                               "G3X40.Y20.R10.\nG1Y30.\nM30\n%\n");
-  CliResult r = runCli({"verify", a, same});
-  EXPECT_EQ(r.exitCode, 0) << r.out << r.err;
-  EXPECT_EQ(r.out, "");
+  EXPECT_EQ(runCli({"verify", a, same}), (CliResult{0, "", ""}));
 
   // The first arc turns the other way: both lines where they part, with their texts.
   std::string other = kPart;
   other.replace(other.find("N50 G2"), 6, "N50 G3");
   const auto b = dir.write("b.nc", other);
-  r = runCli({"verify", a, b});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.out, a + ":7: N50 G2 X30. Y10. I0 J10.\n" + b + ":7: N50 G3 X30. Y10. I0 J10.\n");
+  EXPECT_EQ(runCli({"verify", a, b}),
+            (CliResult{1, a + ":7: N50 G2 X30. Y10. I0 J10.\n" + b + ":7: N50 G3 X30. Y10. I0 J10.\n", ""}));
 
   // A centre moved by more than the tolerance is a difference too; the lines are each program's own.
   const auto c = dir.write("c.nc", "G21 G90 G17\nG0 X0 Y0 Z5.\nG1 Z-1. F100.\nX20.\nG2 X30. Y10. I0 J10.001\n");
-  r = runCli({"verify", a, c});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.out, a + ":7: N50 G2 X30. Y10. I0 J10.\n" + c + ":5: G2 X30. Y10. I0 J10.001\n");
+  EXPECT_EQ(runCli({"verify", a, c}),
+            (CliResult{1, a + ":7: N50 G2 X30. Y10. I0 J10.\n" + c + ":5: G2 X30. Y10. I0 J10.001\n", ""}));
 }
 
 TEST(VerifyCli, AProgramThatEndsFirstAndAMissingFile) {
   TempDir dir;
   const auto a = dir.write("a.nc", "G0 X1\nG1 X2 F10\nG1 X3\n");
   const auto b = dir.write("b.nc", "G0 X1\nG1 X2 F10\n");
-  CliResult r = runCli({"verify", a, b});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.out, a + ":3: G1 X3\n" + b + ": ends after 2 moves\n");
+  EXPECT_EQ(runCli({"verify", a, b}), (CliResult{1, a + ":3: G1 X3\n" + b + ": ends after 2 moves\n", ""}));
 
-  r = runCli({"verify", a, dir.file("none.nc")});
+  const CliResult r = runCli({"verify", a, dir.file("none.nc")});
   EXPECT_EQ(r.exitCode, 1);
   EXPECT_EQ(r.out, "");
   EXPECT_NE(r.err.find(dir.file("none.nc") + ": File not found"), std::string::npos);

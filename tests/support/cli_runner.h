@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 
 #include <cstdio>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,10 @@ struct CliResult {
   int exitCode = -1;
   std::string out;
   std::string err;
+  bool operator==(const CliResult&) const = default;
+  friend void PrintTo(const CliResult& r, std::ostream* os) {
+    *os << "exit " << r.exitCode << ", out \"" << r.out << "\", err \"" << r.err << "\"";
+  }
 };
 
 inline std::string shellQuote(const std::string& s) {
