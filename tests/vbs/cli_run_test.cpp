@@ -4,6 +4,7 @@
 #include "support/cli_runner.h"
 #include "support/temp_dir.h"
 
+using lathwick::test::CliResult;
 using lathwick::test::runCli;
 using lathwick::test::TempDir;
 
@@ -14,10 +15,7 @@ TEST(CliRun, PrintsMsgBoxPromptsAndSeesItsArguments) {
                                 "MsgBox \"count \" & (UBound(args) + 1)\r\n"
                                 "WriteLine Join(args, \"|\")\r\n"
                                 "If MsgBox(\"Continue?\", vbYesNo) = vbYes Then WriteLine \"yes\"\r\n");
-  const auto r = runCli({"run", script, "one", "two words"});
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, "count 2\none|two words\nContinue?\nyes\n");
-  EXPECT_EQ(r.err, "");
+  EXPECT_EQ(runCli({"run", script, "one", "two words"}), (CliResult{0, "count 2\none|two words\nContinue?\nyes\n", ""}));
 }
 
 TEST(CliRun, InputBoxReadsLinesAndEndOfInputIsCancel) {
@@ -25,18 +23,14 @@ TEST(CliRun, InputBoxReadsLinesAndEndOfInputIsCancel) {
   const auto script = dir.write("in.vbs",
                                 "a = InputBox(\"Name?\")\nb = InputBox(\"Again?\")\n"
                                 "WriteLine \"[\" & a & \"][\" & b & \"]\"\n");
-  const auto r = runCli({"run", script}, "Ada\r\n");
-  EXPECT_EQ(r.exitCode, 0) << r.err;
-  EXPECT_EQ(r.out, "Name?\nAgain?\n[Ada][]\n");
+  EXPECT_EQ(runCli({"run", script}, "Ada\r\n"), (CliResult{0, "Name?\nAgain?\n[Ada][]\n", ""}));
 }
 
 TEST(CliRun, RuntimeErrorPrintsTheRecordAndExitsOne) {
   TempDir dir;
   const auto script = dir.write("bad.vbs", "WriteLine \"before\"\n  x = 1 / 0\nWriteLine \"after\"\n");
-  const auto r = runCli({"run", script});
-  EXPECT_EQ(r.exitCode, 1);
-  EXPECT_EQ(r.out, "before\n");
-  EXPECT_EQ(r.err, script + ":2:3: VBScript runtime error 11: Division by zero\n      x = 1 / 0\n");
+  EXPECT_EQ(runCli({"run", script}),
+            (CliResult{1, "before\n", script + ":2:3: VBScript runtime error 11: Division by zero\n      x = 1 / 0\n"}));
 }
 
 TEST(CliRun, CompileErrorRunsNothing) {
