@@ -34,6 +34,9 @@ TEST(ProgressForm, ShownWhileProgressRunsAndEscCancels) {
   monitor.progressValue(250);
   EXPECT_EQ(form->bar()->maximum(), 1000);
   EXPECT_EQ(form->bar()->value(), 250);
+  // Values close together are shown only now and then, but the last one always at once.
+  monitor.progressValue(1000);
+  EXPECT_EQ(form->bar()->value(), 1000);
 
   QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
   QCoreApplication::sendEvent(form, &other);

@@ -37,7 +37,12 @@ void QtPassMonitor::progressStart(long total) {
 }
 
 void QtPassMonitor::progressValue(long value) {
-  if (QProgressBar* bar = activeBar(); bar && showing_) bar->setValue(barValue(value));
+  QProgressBar* bar = activeBar();
+  if (!bar || !showing_) return;
+  const int shown = barValue(value);
+  if (sinceValue_.isValid() && sinceValue_.elapsed() < kValueIntervalMs && shown < bar->maximum()) return;
+  bar->setValue(shown);
+  sinceValue_.start();
 }
 
 void QtPassMonitor::progressEnd() {

@@ -40,6 +40,9 @@ class QtPassMonitor : public lathwick::PassMonitor {
   // the event loop for each of a million lines would cost more than the pass itself, and a key
   // press is still seen within this time.
   static constexpr int kPumpIntervalMs = 15;
+  // How often the bar shows a new value at most (the last value always shows). The bar repaints
+  // itself at once on every new value, which a long run's hundred steps would otherwise pay for.
+  static constexpr int kValueIntervalMs = 40;
 
  private:
   QProgressBar* activeBar() const;
@@ -50,6 +53,7 @@ class QtPassMonitor : public lathwick::PassMonitor {
   std::unique_ptr<frmProg> form_;
   QPointer<QWidget> focusBefore_;  // while the progress form has the keys
   QElapsedTimer sincePump_;
+  QElapsedTimer sinceValue_;
   bool showing_ = false;
 };
 
