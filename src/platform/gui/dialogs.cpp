@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/app_names.h"
+
 namespace lathwick::gui {
 namespace {
 QString q(const std::string& s) { return QString::fromLocal8Bit(s.c_str()); }
@@ -63,7 +65,8 @@ std::string qtFilterOf(const std::string& filter) {
 
 Answer QtDialogs::message(const std::string& text, const std::string& caption, Buttons buttons, Icon icon) {
   QMessageBox box(QApplication::activeWindow());
-  box.setWindowTitle(q(caption));
+  // A box raised without a caption carries the program's title, as every untitled box does.
+  box.setWindowTitle(q(caption.empty() ? std::string(kAppTitle) : caption));
   box.setText(q(text));
   switch (icon) {
     case Icon::None: break;
