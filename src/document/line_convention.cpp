@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <optional>
 #include <type_traits>
 
 #include "platform/atomic_file.h"
@@ -83,24 +84,27 @@ std::string withLineEnds(std::string_view crLfText, LineEnds ends) {
   return out;
 }
 
+std::optional<LineEnds> writeTwinUnlessCr(const std::string& from, const std::string& to) {
+  // The file is taken for Linux text (and its twin written) until a CR turns up. A CR LF program
+  // shows its first CR in the first block, so either way the file is read about once. The twin
+  // is begun only then, so a CR LF program never touches `to` here.
+  std::optional<AtomicFileWriter> out;
+  BreakScan scan;
+  readBlocks(from, [&](std::string_view block) {
+    scan.add(block);
+    if (scan.anyCr) return false;
+    if (!out) out.emplace(to, Durability::Scratch);
+    out->write(linuxToCrLf(block));
+    return true;
+  });
+  if (scan.anyCr) return std::nullopt;
+  if (!out) out.emplace(to, Durability::Scratch);  // an empty file
+  out->commit();
+  return scan.ends();  // text without LF is its own twin, and counts as CR LF
+}
+
 LineEnds copyAsCrLfTwin(const std::string& from, const std::string& to) {
-  // One reading of the file: it is taken for Linux text (and its twin written) until a CR turns
-  // up; then it is not, and it is copied again byte for byte. A CR LF program shows its first
-  // CR in the first block, so either way the file is read about once.
-  {
-    AtomicFileWriter out(to, Durability::Scratch);
-    BreakScan scan;
-    readBlocks(from, [&](std::string_view block) {
-      scan.add(block);
-      if (scan.anyCr) return false;
-      out.write(linuxToCrLf(block));
-      return true;
-    });
-    if (!scan.anyCr) {
-      out.commit();
-      return scan.ends();  // text without LF is its own twin, and counts as CR LF
-    }
-  }
+  if (const auto ends = writeTwinUnlessCr(from, to)) return *ends;
   if (!copyFile(from, to, Durability::Scratch)) throw makeError(err::kPathFileAccessError);
   return LineEnds::CrLf;
 }

@@ -5,6 +5,7 @@
 // LF, so a document keeps the convention it came with. Anything else (CR LF, a mixture of CR LF
 // and bare LFs, lone CRs, no line break at all) is taken as it is, for the line-ending checks
 // and the junk filter to judge.
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,9 @@ std::string withLineEnds(std::string_view crLfText, LineEnds ends);
 // Copies a program file to a work file as its CR LF twin and says which convention it had; a
 // file that is not Linux text is copied byte for byte. Throws AppError when either file fails.
 LineEnds copyAsCrLfTwin(const std::string& from, const std::string& to);
+// The first half of that: the twin of a file that holds no CR is written and its convention
+// returned; a file with a CR gives nullopt and `to` is left as it was. Throws as above.
+std::optional<LineEnds> writeTwinUnlessCr(const std::string& from, const std::string& to);
 // Rewrites a file written with CR LF in the convention `ends` (nothing to do for CrLf), through
 // a temporary file. Throws AppError when it fails.
 void rewriteWithLineEnds(const std::string& path, LineEnds ends);

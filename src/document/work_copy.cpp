@@ -6,11 +6,12 @@
 namespace lathwick {
 
 WorkCopy::WorkCopy(std::string program, std::string workFile, bool rich) {
-  if (!rich) lineEnds_ = lineEndsOfFile(program);
-  if (lineEnds_ == LineEnds::Lf) {
-    copyAsCrLfTwin(program, workFile);
-    loadFrom_ = std::move(workFile);
-    return;
+  if (!rich) {
+    if (const auto ends = writeTwinUnlessCr(program, workFile)) {
+      lineEnds_ = *ends;  // the twin is made (for a file without breaks, the same bytes)
+      loadFrom_ = std::move(workFile);
+      return;
+    }
   }
   loadFrom_ = program;
   copier_ = std::thread([this, from = std::move(program), to = std::move(workFile)] {

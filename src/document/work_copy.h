@@ -2,8 +2,8 @@
 // A program being opened is copied to the work file, and the window shows what the copy holds.
 // The copy is made on a helper thread while the window loads the same bytes from the program
 // itself, so the program is read about once and the writing is off the window's thread. Only a
-// program with Linux line ends is copied first: the window must see its CR LF twin, which only
-// the copy has.
+// program without any CR is copied first (it is read once, its twin written as it is read): the
+// window must see its CR LF twin, which only the copy has.
 #include <string>
 #include <thread>
 

@@ -22,6 +22,7 @@ TEST(WorkCopy, TheWindowLoadsTheProgramOrItsTwinAndTheWorkFileHoldsTheSame) {
       {"crlf.nc", "G0 X1\r\nG1 Y2\r\n", false, LineEnds::CrLf, false},
       {"lf.nc", "G0 X1\nG1 Y2\n", false, LineEnds::Lf, true},
       {"mixed.nc", "G0 X1\nG1 Y2\r\n", false, LineEnds::CrLf, false},
+      {"one.nc", "G0 X1", false, LineEnds::CrLf, true},  // no break: its own twin
       // Rich text is copied as it is, even with bare LFs.
       {"part.rtf", "{\\rtf1 G0 X1\\par\n}", true, LineEnds::CrLf, false},
   };
